@@ -1,0 +1,124 @@
+# shellcheck shell=bash
+# The one list of what is needed from the system, and the installing of what is missing.
+
+# purpose | packages of Debian and Ubuntu | formulae of Homebrew | reason
+package_list=(
+  "build|g++ cmake ninja-build git|cmake ninja git|compile the program"
+  "build|libicu-dev|icu4c|write sizes and dates as the user's language does"
+  "build|qt6-base-dev qt6-declarative-dev qt6-svg-dev libgl-dev libegl-dev|qt|draw the window"
+  "build|qcoro-qt6-dev|qcoro|wait for background work without blocking the window"
+  "build|bootstrap-icons||symbols"
+  "build|qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-layouts||screens"
+  "build|qml6-module-qtquick-controls qml6-module-qtquick-templates qml6-module-qtquick-shapes||screens"
+  "build|qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript||screens"
+  "build|fonts-inter fonts-noto-color-emoji||the typefaces of the screens"
+  "build|qt6-wayland||open the window on a Wayland desktop"
+  "screen|xvfb xdotool python3-xlib||a virtual screen, its keys and its pointer"
+  "screen|dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi||press the program's controls from outside"
+  "screen|python3-pil||take pictures"
+  "test|libgtest-dev libgmock-dev|googletest|tests of the logic"
+  "test|qml6-module-qttest||tests of the screens"
+  "test|strace||see every file that the program opens"
+  "test|appstream desktop-file-utils||check what software centres read"
+  "bench|libbenchmark-dev|google-benchmark|time single calls"
+  "bench|ncdu gdu|ncdu gdu|compare with what people would use instead"
+  "bench|python3|python|time programs and print the table"
+  "check|clang-format clang-tidy clang|clang-format llvm|check the style of the sources"
+)
+
+# install_missing PURPOSE...: installs what the purposes need and the system lacks.
+install_missing() {
+  if command -v apt-get >/dev/null; then
+    install_missing_with_apt "$@"
+  elif command -v brew >/dev/null; then
+    install_missing_with_brew "$@"
+  else
+    warn_of_unknown_system "$@"
+  fi
+}
+
+# packages COLUMN PURPOSE...: the names in a column of the list, one a line.
+packages() {
+  local column=$1 line purpose
+  shift
+  for line in "${package_list[@]}"; do
+    for purpose in "$@"; do
+      [[ $line == "$purpose|"* ]] && cut -d'|' -f"$column" <<<"$line" | tr ' ' '\n' | sed '/^$/d'
+    done
+  done
+  return 0
+}
+
+install_missing_with_apt() {
+  local missing log
+  mapfile -t missing < <(packages 2 "$@" | without_installed_debs)
+  [ ${#missing[@]} -gt 0 ] || return 0
+  say "Installing from the distribution$(with_sudo), to"
+  explain_packages 2 "${missing[@]}"
+  log=$(log_file packages)
+  # Old package lists may still do; whether they did, the installing tells.
+  as_root apt-get update -qq </dev/null >"$log" 2>&1 || true
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+    "${missing[@]}" </dev/null >>"$log" 2>&1 || {
+    cat "$log"
+    fail "apt-get could not install: ${missing[*]}"
+  }
+}
+
+without_installed_debs() {
+  local name
+  while read -r name; do
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null)" = installed ] || echo "$name"
+  done
+}
+
+install_missing_with_brew() {
+  local missing
+  mapfile -t missing < <(packages 3 "$@" | without_installed_formulae)
+  [ ${#missing[@]} -gt 0 ] || return 0
+  say "Installing with Homebrew, to"
+  explain_packages 3 "${missing[@]}"
+  brew install "${missing[@]}" || fail "Homebrew could not install: ${missing[*]}"
+}
+
+without_installed_formulae() {
+  local name installed
+  installed=$(brew list --formula -1)
+  while read -r name; do
+    grep -qx "$name\(@.*\)\?" <<<"$installed" || echo "$name"
+  done
+}
+
+# explain_packages COLUMN NAME...: each line of the list that holds one of the names, with its reason.
+explain_packages() {
+  local column=$1 line names name found
+  shift
+  for line in "${package_list[@]}"; do
+    names=$(cut -d'|' -f"$column" <<<"$line") found=()
+    for name in "$@"; do
+      [[ " $names " == *" $name "* ]] && found+=("$name")
+    done
+    [ ${#found[@]} -eq 0 ] || say "  $(cut -d'|' -f4 <<<"$line"): ${found[*]}"
+  done
+}
+
+with_sudo() { [ "$(id -u)" = 0 ] || printf ' (with sudo, since only root may)'; }
+
+# as_root COMMAND...: runs it with the right to install.
+as_root() {
+  if [ "$(id -u)" = 0 ]; then
+    "$@"
+  elif command -v sudo >/dev/null; then
+    if [ -t 2 ]; then sudo "$@"; else sudo -n "$@"; fi
+  else
+    fail "not root, and no sudo here. As root, run: $*"
+  fi
+}
+
+warn_of_unknown_system() {
+  command -v cmake >/dev/null && command -v ninja >/dev/null && command -v c++ >/dev/null && return 0
+  say "Neither apt-get nor Homebrew is here. Install these with the system's own means"
+  say "(the names are those of Debian 12):"
+  packages 2 "$@" | sed 's/^/  /'
+  fail "a compiler, CMake or Ninja is missing"
+}

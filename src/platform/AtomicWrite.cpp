@@ -1,0 +1,82 @@
+#include "platform/FileDescriptor.h"
+#include "platform/FileManager.h"
+#include "platform/PathParts.h"
+#include "platform/SystemError.h"
+
+#include <cstdio>
+#include <fcntl.h>
+#include <random>
+#include <string_view>
+#include <unistd.h>
+
+namespace drossbin {
+
+namespace {
+
+std::string temporaryName() {
+    std::random_device random;
+    return ".drossbin-" + std::to_string(random()) + "-" + std::to_string(random());
+}
+
+std::error_code writeAll(int file, std::string_view text) {
+    while (!text.empty()) {
+        const ssize_t written = ::write(file, text.data(), text.size());
+        if (written >= 0) {
+            text.remove_prefix(static_cast<std::size_t>(written));
+        } else if (errno != EINTR) {
+            return lastSystemError();
+        }
+    }
+    return {};
+}
+
+std::error_code flush(int descriptor) {
+#ifdef F_FULLFSYNC
+    // There fsync leaves the data in the drive's own memory.
+    if (::fcntl(descriptor, F_FULLFSYNC) == 0) {
+        return {};
+    }
+#endif
+    return ::fsync(descriptor) == 0 ? std::error_code() : lastSystemError();
+}
+
+std::error_code writeNewFile(int folder, const std::string& name, std::string_view text) {
+    const FileDescriptor file(
+        ::openat(folder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644));
+    if (!file.isOpen()) {
+        return lastSystemError();
+    }
+    const std::error_code error = writeAll(file.get(), text);
+    return error ? error : flush(file.get());
+}
+
+std::error_code replace(int folder, const std::string& newName, const std::string& name) {
+    if (::renameat(folder, newName.c_str(), folder, name.c_str()) != 0) {
+        return lastSystemError();
+    }
+    return flush(folder);
+}
+
+} // namespace
+
+// A name in the same folder and a rename, rather than a file without a name (O_TMPFILE): such a
+// file can be given a free name but cannot take the place of another, needs /proc, and not every
+// file system has it. The price is that a kill may leave a hidden file with the temporary name.
+std::error_code FileManager::writeAtomically(const std::string& text, const std::string& path) {
+    const PathParts target(path);
+    const FileDescriptor folder(::open(target.folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder.isOpen()) {
+        return lastSystemError();
+    }
+    const std::string temporary = temporaryName();
+    std::error_code error = writeNewFile(folder.get(), temporary, text);
+    if (!error) {
+        error = replace(folder.get(), temporary, target.name);
+    }
+    if (error) {
+        ::unlinkat(folder.get(), temporary.c_str(), 0); // gone already when the rename was done
+    }
+    return error;
+}
+
+} // namespace drossbin

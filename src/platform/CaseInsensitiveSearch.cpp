@@ -1,0 +1,205 @@
+#include "platform/CaseInsensitiveSearch.h"
+
+#include <unicode/brkiter.h>
+#include <unicode/locid.h>
+#include <unicode/normalizer2.h>
+#include <unicode/uchar.h>
+#include <unicode/unistr.h>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace drossbin {
+
+namespace {
+
+constexpr char16_t dotlessI = u'\u0131';
+
+/// Whether the locale's capital I is that of "ı", as in Turkish, and not that of "i".
+bool hasDotlessI(const Locale& locale) {
+    const std::string language = icu::Locale(locale.identifier.c_str()).getLanguage();
+    return language == "tr" || language == "az";
+}
+
+icu::UnicodeString decoded(std::string_view text) {
+    return icu::UnicodeString::fromUTF8({text.data(), static_cast<int32_t>(text.size())});
+}
+
+// Without its tables ICU cannot compose. The search then still finds what is spelled alike.
+bool isComposed(const icu::UnicodeString& text) {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Normalizer2* composer = icu::Normalizer2::getNFCInstance(status);
+    return U_FAILURE(status) || composer->isNormalized(text, status) != 0;
+}
+
+icu::UnicodeString composed(const icu::UnicodeString& text) {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Normalizer2* composer = icu::Normalizer2::getNFCInstance(status);
+    return isComposed(text) ? text : composer->normalize(text, status);
+}
+
+std::unique_ptr<icu::BreakIterator> makeCharacterFinder() {
+    UErrorCode status = U_ZERO_ERROR;
+    return std::unique_ptr<icu::BreakIterator>(
+        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+}
+
+/// Whether ICU finds `place` to be between two characters of `text`. Without its rules any place
+/// counts: a match too many is better than a file that cannot be found.
+bool isBoundary(const icu::UnicodeString& text, int32_t place) {
+    // Making a finder takes longer than most searches, and it remembers its place: one a thread.
+    thread_local const std::unique_ptr<icu::BreakIterator> finder = makeCharacterFinder();
+    if (finder == nullptr) {
+        return true;
+    }
+    finder->setText(text);
+    return finder->isBoundary(place) != 0;
+}
+
+/// Whether a character never joins its neighbours.
+bool standsAlone(UChar32 character) {
+    return u_getIntPropertyValue(character, UCHAR_GRAPHEME_CLUSTER_BREAK) == U_GCB_OTHER;
+}
+
+bool isBetweenCharacters(const icu::UnicodeString& text, int32_t place) {
+    return place == 0 || place == text.length() ||
+           (standsAlone(text.char32At(place - 1)) && standsAlone(text.char32At(place))) ||
+           isBoundary(text, place);
+}
+
+/// Whether `key` is in `text` at a place that begins and ends where `isWhole` holds.
+template <class IsWhole>
+bool containsWhole(const icu::UnicodeString& text, const icu::UnicodeString& key, IsWhole isWhole) {
+    int32_t place = text.indexOf(key);
+    while (place >= 0 && !(isWhole(place) && isWhole(place + key.length()))) {
+        place = text.indexOf(key, place + 1);
+    }
+    return place >= 0;
+}
+
+} // namespace
+
+/// As many bytes as a processor folds at once.
+using Block = std::array<unsigned char, 16>;
+
+struct CaseInsensitiveSearch::Pattern {
+    uint32_t folding;       ///< ICU's option for the locale
+    icu::UnicodeString key; ///< composed, folded, composed again
+
+    /// The key as it stands in folded ASCII text, if it can be in one. A capital I of its own is
+    /// the only capital left in such text, and stands for "ı".
+    std::optional<std::string> asciiKey;
+
+    Pattern(std::string_view pattern, const Locale& locale)
+        : folding(hasDotlessI(locale) ? U_FOLD_CASE_EXCLUDE_SPECIAL_I : U_FOLD_CASE_DEFAULT)
+        , key(composed(composed(decoded(pattern)).foldCase(folding)))
+        , asciiKey(keyInAscii()) {}
+
+    [[nodiscard]] bool keepsCapitalI() const { return folding == U_FOLD_CASE_EXCLUDE_SPECIAL_I; }
+
+    [[nodiscard]] std::optional<std::string> keyInAscii() const {
+        std::string ascii;
+        for (int32_t index = 0; index < key.length(); ++index) {
+            const char16_t unit = key[index];
+            const bool isCapitalI = unit == dotlessI && keepsCapitalI();
+            if (unit > 0x7F && !isCapitalI) {
+                return std::nullopt;
+            }
+            ascii += isCapitalI ? 'I' : static_cast<char>(unit);
+        }
+        return ascii;
+    }
+
+    /// Folds the ASCII letters of whole blocks in place; false if they hold more than ASCII.
+    [[nodiscard]] bool foldAscii(std::span<Block> blocks) const {
+        const unsigned char kept = keepsCapitalI() ? 'I' : '\0';
+        unsigned char bits = 0;
+        for (Block& block : blocks) {
+            for (unsigned char& c : block) {
+                bits |= c;
+                const bool isCapital = c >= 'A' && c <= 'Z' && c != kept;
+                c = static_cast<unsigned char>(c + (isCapital ? 'a' - 'A' : 0));
+            }
+        }
+        return bits <= 0x7F;
+    }
+
+    /// `folded` is ASCII, where only a carriage return and a line feed make one character.
+    [[nodiscard]] bool isFoundInAscii(std::string_view folded) const {
+        const auto splitsLineEnd = [folded](std::size_t place) {
+            return place > 0 && place < folded.size() && folded[place - 1] == '\r' &&
+                   folded[place] == '\n';
+        };
+        std::size_t place = asciiKey ? folded.find(*asciiKey) : std::string_view::npos;
+        while (place != std::string_view::npos &&
+               (splitsLineEnd(place) || splitsLineEnd(place + asciiKey->size()))) {
+            place = folded.find(*asciiKey, place + 1);
+        }
+        return place != std::string_view::npos;
+    }
+
+    [[nodiscard]] bool isFoundInUnicode(const icu::UnicodeString& text) const {
+        icu::UnicodeString folded = text;
+        folded.foldCase(folding);
+        // Folding never shortens a text, so one of the same length has kept every place.
+        if (folded.length() == text.length() && isComposed(folded)) {
+            return containsWhole(
+                folded, key, [&text](int32_t place) { return isBetweenCharacters(text, place); });
+        }
+        return composed(folded).indexOf(key) >= 0 && isFoundCharacterwise(text);
+    }
+
+    /// The exact way for texts whose places move when they are folded, as in "ß" and "ss".
+    [[nodiscard]] bool isFoundCharacterwise(const icu::UnicodeString& text) const {
+        icu::UnicodeString folded;
+        std::vector<int32_t> boundaries{0};
+        for (int32_t start = 0, next = 0; start < text.length(); start = next) {
+            do {
+                next = text.moveIndex32(next, 1);
+            } while (!isBetweenCharacters(text, next));
+            icu::UnicodeString character = text.tempSubStringBetween(start, next);
+            folded.append(composed(character.foldCase(folding)));
+            boundaries.push_back(folded.length());
+        }
+        return containsWhole(folded, key, [&boundaries](int32_t place) {
+            return std::ranges::binary_search(boundaries, place);
+        });
+    }
+};
+
+CaseInsensitiveSearch::CaseInsensitiveSearch(std::string_view pattern, const Locale& locale)
+    : m_pattern(std::make_unique<const Pattern>(pattern, locale)) {}
+
+CaseInsensitiveSearch::~CaseInsensitiveSearch() = default;
+CaseInsensitiveSearch::CaseInsensitiveSearch(CaseInsensitiveSearch&&) noexcept = default;
+CaseInsensitiveSearch& CaseInsensitiveSearch::operator=(CaseInsensitiveSearch&&) noexcept = default;
+
+bool CaseInsensitiveSearch::isFoundIn(std::string_view text) const {
+    if (m_pattern->key.isEmpty()) {
+        return false;
+    }
+    // Most texts are short and ASCII: one letter typed looks through all of them without a call
+    // to ICU or the heap.
+    std::array<Block, 32> shortText; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    std::vector<Block> longText;
+    const std::size_t count = text.size() / sizeof(Block) + 1;
+    if (count > shortText.size()) {
+        longText.resize(count);
+    }
+    const std::span<Block> blocks =
+        longText.empty() ? std::span<Block>(shortText).first(count) : std::span<Block>(longText);
+    blocks.back() = {};
+    std::memcpy(blocks.data(), text.data(), text.size());
+    if (m_pattern->foldAscii(blocks)) {
+        return m_pattern->isFoundInAscii(
+            {reinterpret_cast<const char*>(blocks.data()), text.size()});
+    }
+    return m_pattern->isFoundInUnicode(composed(decoded(text)));
+}
+
+} // namespace drossbin

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/FileDescriptor.h"
+
+#include <sys/stat.h>
+
+namespace drossbin {
+
+/// An open folder, and which one it is, wherever it may be moved.
+struct OpenFolder {
+    struct Identity {
+        dev_t device;
+        ino_t inode;
+        bool operator==(const Identity&) const = default;
+    };
+
+    static Identity identityFrom(const struct stat& status) {
+        return {status.st_dev, status.st_ino};
+    }
+
+    FileDescriptor descriptor;
+    Identity identity{};
+
+    [[nodiscard]] bool isOpen() const { return descriptor.isOpen(); }
+    [[nodiscard]] int get() const { return descriptor.get(); }
+};
+
+enum class LastLink : bool { followed, refused };
+
+/// Opens the folder `name` in the open folder `parent`, and nothing but a folder: opening a pipe
+/// or a device would wait, or act. Not open on failure, with the reason in errno.
+FileDescriptor openFolder(int parent, const char* name, LastLink link);
+
+/// The same, but waits a while for other threads to close something when the process may open no
+/// more files.
+FileDescriptor openFolderPatiently(int parent, const char* name, LastLink link);
+
+/// Whether errno says that the process, or the system, may open no more files.
+[[nodiscard]] bool lacksDescriptors();
+
+} // namespace drossbin

@@ -1,0 +1,111 @@
+#include "platform/WalkCrew.h"
+
+#include "platform/CheckedSum.h"
+
+#include <algorithm>
+#include <memory>
+#include <sys/resource.h>
+#include <system_error>
+#include <thread>
+#include <unistd.h>
+#include <utility>
+
+namespace drossbin {
+
+namespace {
+
+/// A disk answers that many requests at a time; each thread needs up to 4 descriptors and more.
+std::size_t mostThreads() {
+    rlimit limit{};
+    const bool known = ::getrlimit(RLIMIT_NOFILE, &limit) == 0;
+    return std::clamp<std::size_t>(known ? limit.rlim_cur / 16 : 0, 1, 15);
+}
+
+} // namespace
+
+WalkCrew* WalkCrew::ofThisProcess() {
+    static const pid_t process = ::getpid();
+    // Never destroyed: a walk that still runs must not hold up the end of the process, and the
+    // sleeping threads end with it.
+    static WalkCrew* const crew = std::make_unique<WalkCrew>().release();
+    return ::getpid() == process ? crew : nullptr;
+}
+
+WalkCrew::WalkCrew()
+    : m_usualStrength(std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, 16) - 1)
+    , m_fullStrength(std::max(m_usualStrength, mostThreads()))
+    , m_strength(m_usualStrength) {}
+
+void WalkCrew::suit(bool hasWaited) {
+    const std::size_t strength = m_strength.load(std::memory_order_relaxed);
+    const std::size_t wanted =
+        hasWaited ? m_fullStrength : std::max(strength, m_usualStrength + 1) - 1;
+    if (wanted != strength) {
+        m_strength.store(wanted, std::memory_order_relaxed);
+    }
+}
+
+void WalkCrew::give(Parcel parcel, Measurement& measurement) {
+    const Lock lock(m_mutex);
+    m_tasks.push_back({std::move(parcel), &measurement});
+    m_waitingParcels.store(m_tasks.size(), std::memory_order_relaxed);
+    ++measurement.parcelsOut;
+    if (std::exchange(measurement.isOwnerWaiting, false)) {
+        measurement.comeBack.notify_one();
+        return;
+    }
+    if (m_walking + m_tasks.size() > m_threads && m_threads < m_strength) {
+        startThread();
+    }
+    m_arrival.notify_one();
+}
+
+void WalkCrew::startThread() {
+    try {
+        std::thread([this] { work(); }).detach();
+        ++m_threads;
+    } catch (const std::system_error&) {
+        // No thread to be had: the parcel's owner walks it in the end.
+    }
+}
+
+void WalkCrew::work() {
+    Lock lock(m_mutex);
+    while (true) {
+        m_arrival.wait(lock, [this] { return !m_tasks.empty() && m_walking < m_strength; });
+        ++m_walking;
+        perform(m_tasks.begin(), lock);
+        --m_walking;
+    }
+}
+
+void WalkCrew::perform(const TaskQueue::iterator& next, Lock& lock) {
+    Task task = std::move(*next);
+    m_tasks.erase(next);
+    m_waitingParcels.store(m_tasks.size(), std::memory_order_relaxed);
+    lock.unlock();
+    const std::int64_t size = TreeWalk(*task.measurement).sizeOf(std::move(task.parcel));
+    lock.lock();
+    task.measurement->size = checkedSum(task.measurement->size, size);
+    if (--task.measurement->parcelsOut == 0) {
+        task.measurement->comeBack.notify_one();
+    }
+}
+
+std::int64_t WalkCrew::finish(Measurement& measurement) {
+    Lock lock(m_mutex);
+    while (measurement.parcelsOut > 0) {
+        const auto own = std::find_if(m_tasks.begin(), m_tasks.end(), [&](const Task& task) {
+            return task.measurement == &measurement;
+        });
+        if (own != m_tasks.end()) {
+            perform(own, lock);
+        } else {
+            measurement.isOwnerWaiting = true;
+            measurement.comeBack.wait(lock);
+        }
+    }
+    return measurement.size;
+}
+
+} // namespace drossbin

@@ -1,0 +1,117 @@
+#include "platform/FileManager.h"
+#include "support/PrivateMounts.h"
+#include "support/ScratchFolder.h"
+#include "support/SystemCalls.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <functional>
+#include <string>
+
+namespace drossbin {
+namespace {
+
+using test::mountAgain;
+using test::mountMemory;
+using test::ScratchFolder;
+using test::SystemCallHook;
+
+bool isThere(const std::string& path) {
+    return FileManager::attributesOfItem(path).has_value();
+}
+
+void expectWithPrivateMounts(const std::function<bool()>& job) {
+    const auto holds = test::holdsWithPrivateMounts(job);
+    if (!holds) {
+        GTEST_SKIP() << "this system lets the tests make no mounts of their own";
+    }
+    EXPECT_TRUE(*holds);
+}
+
+bool isBusy(const std::string& path) {
+    return FileManager::removeItem(path) == std::errc::device_or_resource_busy;
+}
+
+TEST(RemovalOfAnItemWithAMountInside, fails_and_leaves_another_file_system_alone) {
+    const ScratchFolder scratch;
+    const std::string mount = scratch.folder("item/a/mount");
+    expectWithPrivateMounts([&] {
+        return mountMemory(mount, "64k") && !scratch.file("item/a/mount/file", 1).empty() &&
+               isBusy(scratch / "item") && isThere(mount + "/file");
+    });
+}
+
+TEST(RemovalOfAnItemWithAMountInside, fails_and_leaves_a_folder_of_the_same_file_system_alone) {
+    const ScratchFolder scratch;
+    const std::string mount = scratch.folder("item/a/mount");
+    scratch.file("outside/file", 1);
+    expectWithPrivateMounts([&] {
+        return mountAgain(scratch / "outside", mount) && isBusy(scratch / "item") &&
+               isThere(scratch / "outside/file");
+    });
+}
+
+TEST(RemovalOfAnItemWithAMountInside, fails_and_leaves_a_file_of_the_same_file_system_alone) {
+    const ScratchFolder scratch;
+    const std::string mount = scratch.file("item/mount", 0);
+    const std::string outside = scratch.file("outside", 5);
+    expectWithPrivateMounts([&] {
+        return mountAgain(outside, mount) && isBusy(scratch / "item") &&
+               FileManager::attributesOfItem(outside)->size == 5 && isThere(mount);
+    });
+}
+
+// A system may refuse the newer call that tells mounts apart.
+TEST(RemovalOfAnItemWithAMountInside, fails_by_the_device_alone_where_no_mounts_are_told) {
+    const ScratchFolder scratch;
+    const std::string mount = scratch.folder("item/a/mount");
+    expectWithPrivateMounts([&] {
+        const SystemCallHook refusal(
+            [](const SystemCallHook::Call& call) { return call.function == "statx" ? EPERM : 0; });
+        return mountMemory(mount, "64k") && !scratch.file("item/a/mount/file", 1).empty() &&
+               isBusy(scratch / "item") && isThere(mount + "/file");
+    });
+}
+
+TEST(RemovalOfAMount, fails_and_leaves_what_is_on_it) {
+    const ScratchFolder scratch;
+    const std::string mount = scratch.folder("mount");
+    expectWithPrivateMounts([&] {
+        return mountMemory(mount, "64k") && !scratch.file("mount/file", 1).empty() &&
+               isBusy(mount) && isThere(mount + "/file");
+    });
+}
+
+TEST(RemovalOnAMount, removes_an_item_that_lies_on_it_whole) {
+    const ScratchFolder scratch;
+    const std::string mount = scratch.folder("mount");
+    expectWithPrivateMounts([&] {
+        return mountMemory(mount, "64k") && !scratch.file("mount/item/folder/file", 1).empty() &&
+               !FileManager::removeItem(mount + "/item") && !isThere(mount + "/item");
+    });
+}
+
+TEST(AtomicWriteOnAFullDisk, fails_and_leaves_nothing_behind) {
+    const ScratchFolder scratch;
+    const std::string mount = scratch.folder("mount");
+    expectWithPrivateMounts([&] {
+        return mountMemory(mount, "64k") &&
+               FileManager::writeAtomically(std::string(100'000, 'x'), mount + "/log") ==
+                   std::errc::no_space_on_device &&
+               FileManager::contentsOfDirectory(mount)->empty();
+    });
+}
+
+TEST(AtomicWriteOnAFullDisk, writes_what_fits) {
+    const ScratchFolder scratch;
+    const std::string mount = scratch.folder("mount");
+    expectWithPrivateMounts([&] {
+        return mountMemory(mount, "64k") &&
+               !FileManager::writeAtomically(std::string(50'000, 'x'), mount + "/log") &&
+               FileManager::attributesOfItem(mount + "/log")->size == 50'000;
+    });
+}
+
+} // namespace
+} // namespace drossbin

@@ -1,0 +1,203 @@
+#include "platform/FileManager.h"
+#include "support/ScratchFolder.h"
+#include "support/SystemCalls.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <thread>
+#include <unistd.h>
+
+namespace drossbin {
+namespace {
+
+using test::ScratchFolder;
+using test::SystemCallHook;
+namespace fs = std::filesystem;
+
+const std::error_code noError;
+
+bool isThere(const std::string& path) {
+    return FileManager::attributesOfItem(path).has_value();
+}
+
+/// Removes `item` while `change` strikes right before the first call of `function` about `name`.
+std::error_code removeWithChange(const std::string& item, const std::string& function,
+                                 const std::string& name, const std::function<void()>& change) {
+    bool hasStruck = false;
+    const SystemCallHook hook([&](const SystemCallHook::Call& call) {
+        if (!hasStruck && call.function == function && call.name == name) {
+            hasStruck = true;
+            change();
+        }
+        return 0;
+    });
+    const std::error_code error = FileManager::removeItem(item);
+    EXPECT_TRUE(hasStruck);
+    return error;
+}
+
+class RemovalRace : public testing::Test {
+  protected:
+    RemovalRace() {
+        m_scratch.file("canary/file", 1);
+        m_scratch.file("item/folder/below", 1);
+        m_scratch.file("item/file", 1);
+    }
+
+    std::error_code remove(const std::string& function, const std::string& name,
+                           const std::function<void()>& change) {
+        return removeWithChange(m_item, function, name, change);
+    }
+
+    void expectOnlyCanaryLeft() const {
+        EXPECT_FALSE(isThere(m_item));
+        EXPECT_TRUE(isThere(m_scratch / "canary/file"));
+    }
+
+    ScratchFolder m_scratch;
+    std::string m_item = m_scratch / "item";
+};
+
+TEST_F(RemovalRace, with_one_who_removes_a_file_first_is_no_error) {
+    EXPECT_EQ(remove("unlinkat", "file", [&] { fs::remove(m_item + "/file"); }), noError);
+    expectOnlyCanaryLeft();
+}
+
+TEST_F(RemovalRace, with_one_who_removes_a_folder_first_is_no_error) {
+    EXPECT_EQ(remove("openat", "folder", [&] { fs::remove_all(m_item + "/folder"); }), noError);
+    expectOnlyCanaryLeft();
+}
+
+TEST_F(RemovalRace, with_one_who_removes_an_emptied_folder_first_is_no_error) {
+    const auto change = [&] { fs::remove_all(m_item + "/folder"); };
+    EXPECT_EQ(remove("unlinkat", "folder", change), noError);
+    expectOnlyCanaryLeft();
+}
+
+TEST_F(RemovalRace, removes_a_folder_that_takes_the_place_of_a_file) {
+    EXPECT_EQ(remove("unlinkat", "file",
+                     [&] {
+                         fs::remove(m_item + "/file");
+                         m_scratch.file("item/file/below", 1);
+                     }),
+              noError);
+    expectOnlyCanaryLeft();
+}
+
+TEST_F(RemovalRace, removes_a_file_that_takes_the_place_of_a_folder) {
+    EXPECT_EQ(remove("openat", "folder",
+                     [&] {
+                         fs::remove_all(m_item + "/folder");
+                         m_scratch.file("item/folder", 1);
+                     }),
+              noError);
+    expectOnlyCanaryLeft();
+}
+
+TEST_F(RemovalRace, removes_a_link_that_takes_the_place_of_a_folder_and_not_its_target) {
+    EXPECT_EQ(remove("openat", "folder",
+                     [&] {
+                         fs::remove_all(m_item + "/folder");
+                         fs::create_symlink(m_scratch / "canary", m_item + "/folder");
+                     }),
+              noError);
+    expectOnlyCanaryLeft();
+}
+
+TEST_F(RemovalRace, removes_a_link_that_takes_the_place_of_an_opened_folder) {
+    const auto change = [&] {
+        fs::rename(m_item + "/folder", m_scratch / "away");
+        fs::create_symlink(m_scratch / "canary", m_item + "/folder");
+    };
+    EXPECT_EQ(remove("unlinkat", "below", change), noError);
+    expectOnlyCanaryLeft();
+    EXPECT_TRUE(isThere(m_scratch / "away")) << "it is outside by now";
+}
+
+TEST_F(RemovalRace, removes_a_link_that_takes_the_place_of_the_item_itself) {
+    const auto change = [&] {
+        fs::rename(m_item, m_scratch / "away");
+        fs::create_symlink(m_scratch / "canary", m_item);
+    };
+    EXPECT_EQ(remove("openat", "item", change), noError);
+    expectOnlyCanaryLeft();
+    EXPECT_TRUE(isThere(m_scratch / "away/file"));
+}
+
+TEST_F(RemovalRace, removes_a_folder_that_takes_the_place_of_an_item_that_was_a_file) {
+    const auto change = [&] {
+        fs::remove(m_item + "/file");
+        m_scratch.file("item/file/below", 1);
+    };
+    EXPECT_EQ(removeWithChange(m_item + "/file", "unlinkat", "file", change), noError);
+    EXPECT_FALSE(isThere(m_item + "/file"));
+}
+
+TEST_F(RemovalRace, removes_what_is_added_after_a_folder_was_read) {
+    EXPECT_EQ(remove("unlinkat", "item", [&] { m_scratch.file("item/late/file", 1); }), noError);
+    expectOnlyCanaryLeft();
+}
+
+TEST_F(RemovalRace, gives_up_on_a_folder_that_someone_never_stops_filling) {
+    const SystemCallHook hook([&](const SystemCallHook::Call& call) {
+        if (call.function == "unlinkat" && call.name == "item") {
+            m_scratch.file("item/late", 1);
+        }
+        return 0;
+    });
+    EXPECT_EQ(FileManager::removeItem(m_item), std::errc::directory_not_empty);
+    EXPECT_TRUE(isThere(m_item + "/late"));
+}
+
+// On the way up a closed folder is opened again by "..", which leads elsewhere by now.
+TEST_F(RemovalRace, stops_when_a_deep_folder_was_moved_out_of_the_item) {
+    std::string deep;
+    for (int depth = 0; depth < 30; ++depth) {
+        deep += depth == 9 ? "/moved" : "/x";
+    }
+    m_scratch.file("item" + deep + "/last", 1);
+    const std::string moved = m_item + deep.substr(0, deep.find("/moved")) + "/moved";
+    const auto change = [&] { fs::rename(moved, m_scratch / "canary/moved"); };
+    EXPECT_EQ(remove("unlinkat", "last", change), std::errc::device_or_resource_busy);
+    EXPECT_TRUE(isThere(m_scratch / "canary/file"));
+}
+
+/// Keeps putting a link to `canary` in the place of the folder at `path`, and the folder back.
+void swapWithLink(const std::string& path, const std::string& canary, std::atomic<bool>& stops) {
+    const std::string aside = path + "-aside";
+    while (!stops) {
+        ::rename(path.c_str(), aside.c_str());
+        (void)!::symlink(canary.c_str(), path.c_str()); // while the other thread is faster
+        ::unlink(path.c_str());
+        ::rename(aside.c_str(), path.c_str());
+    }
+}
+
+TEST_F(RemovalRace, spares_what_a_link_leads_to_that_keeps_taking_the_place_of_a_folder) {
+    using std::chrono::steady_clock;
+    const std::string swapped = m_item + "/swapped";
+    std::atomic<bool> stops = false;
+    std::thread swapper([&] { swapWithLink(swapped, m_scratch / "canary", stops); });
+    const auto end = steady_clock::now() + std::chrono::seconds(3);
+    int removals = 0;
+    for (; isThere(m_scratch / "canary/file") && steady_clock::now() < end; ++removals) {
+        try {
+            m_scratch.file("item/swapped/a/b/file", 1);
+        } catch (const std::exception&) {
+            continue; // the other thread has just moved a folder away
+        }
+        FileManager::removeItem(m_item); // whether it ends well is a matter of luck
+    }
+    stops = true;
+    swapper.join();
+    EXPECT_TRUE(isThere(m_scratch / "canary/file")) << "after " << removals << " removals";
+    EXPECT_GT(removals, 10);
+}
+
+} // namespace
+} // namespace drossbin

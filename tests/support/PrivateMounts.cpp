@@ -1,0 +1,85 @@
+#include "support/PrivateMounts.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sys/wait.h>
+#include <unistd.h>
+#ifdef __linux__
+#include <sched.h>
+#include <sys/mount.h>
+#endif
+
+namespace drossbin::test {
+
+namespace {
+
+constexpr int unavailable = 99;
+
+#ifdef __linux__
+
+// An ordinary user may mount where it is root of a user namespace of its own.
+bool becomeRootOfOwnNamespace() {
+    const std::string user = "0 " + std::to_string(::getuid()) + " 1";
+    const std::string group = "0 " + std::to_string(::getgid()) + " 1";
+    if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) {
+        return false;
+    }
+    std::ofstream("/proc/self/setgroups") << "deny"; // asked for before groups may be mapped
+    std::ofstream("/proc/self/gid_map") << group;
+    std::ofstream("/proc/self/uid_map") << user;
+    return ::getuid() == 0 && ::getgid() == 0;
+}
+
+bool makeMountsPrivate() {
+    return (::unshare(CLONE_NEWNS) == 0 || becomeRootOfOwnNamespace()) &&
+           ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+}
+
+#else
+
+bool makeMountsPrivate() {
+    return false;
+}
+
+#endif
+
+} // namespace
+
+std::optional<bool> holdsWithPrivateMounts(const std::function<bool()>& job) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const bool isPrivate = makeMountsPrivate();
+        ::_exit(!isPrivate ? unavailable : job() ? 0 : 1);
+    }
+    int status = 0;
+    EXPECT_EQ(::waitpid(child, &status, 0), child);
+    if (WIFEXITED(status) && WEXITSTATUS(status) == unavailable) {
+        return std::nullopt;
+    }
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+#ifdef __linux__
+
+bool mountMemory(const std::string& path, const std::string& size) {
+    return ::mount("tmpfs", path.c_str(), "tmpfs", 0, ("size=" + size).c_str()) == 0;
+}
+
+bool mountAgain(const std::string& source, const std::string& path) {
+    return ::mount(source.c_str(), path.c_str(), nullptr, MS_BIND, nullptr) == 0;
+}
+
+#else
+
+bool mountMemory(const std::string& /*path*/, const std::string& /*size*/) {
+    return false;
+}
+
+bool mountAgain(const std::string& /*source*/, const std::string& /*path*/) {
+    return false;
+}
+
+#endif
+
+} // namespace drossbin::test

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace drossbin::test {
+
+/// Runs `job` in a child process whose mounts nobody else sees and which may mount; returns what
+/// `job` returned, or nothing where the system grants no such process.
+std::optional<bool> holdsWithPrivateMounts(const std::function<bool()>& job);
+
+// To be called by such a job; each returns whether the mount could be made.
+
+/// Mounts an empty file system in memory of `size` bytes over the folder at `path`.
+bool mountMemory(const std::string& path, const std::string& size);
+
+/// Shows the file or folder at `source` at `path` too.
+bool mountAgain(const std::string& source, const std::string& path);
+
+} // namespace drossbin::test

@@ -1,0 +1,131 @@
+#include "support/SystemCalls.h"
+
+#include <cerrno>
+#include <cstdarg>
+#include <dirent.h>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+#ifndef __THROW
+#define __THROW
+#endif
+
+namespace drossbin::test {
+
+namespace {
+
+thread_local const SystemCallHook::Hook* currentHook = nullptr;
+thread_local bool hidesKinds = false;
+
+/// Whether the call may go on; if not, `errno` is set.
+bool isLetThrough(const SystemCallHook::Call& call) {
+    const SystemCallHook::Hook* hook = std::exchange(currentHook, nullptr);
+    const int error = hook != nullptr ? (*hook)(call) : 0;
+    currentHook = hook;
+    errno = error != 0 ? error : errno;
+    return error == 0;
+}
+
+template <class Function>
+Function* systemFunction(Function* /*ours*/, const char* name) {
+    return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
+}
+
+} // namespace
+
+SystemCallHook::SystemCallHook(Hook hook)
+    : m_hook(std::move(hook)) {
+    currentHook = &m_hook;
+}
+
+SystemCallHook::~SystemCallHook() {
+    currentHook = nullptr;
+    hidesKinds = false;
+}
+
+void SystemCallHook::hideKinds() {
+    hidesKinds = true;
+}
+
+} // namespace drossbin::test
+
+using drossbin::test::isLetThrough;
+using drossbin::test::systemFunction;
+
+// NOLINTBEGIN: the names and signatures are the system's
+
+extern "C" {
+
+int openat(int folder, const char* name, int flags, ...) {
+    static const auto next = systemFunction(&openat, "openat");
+    va_list arguments;
+    va_start(arguments, flags);
+    const auto mode = (flags & O_CREAT) != 0 ? va_arg(arguments, unsigned int) : 0U;
+    va_end(arguments);
+    return isLetThrough({"openat", name}) ? next(folder, name, flags, mode) : -1;
+}
+
+int unlinkat(int folder, const char* name, int flags) __THROW {
+    static const auto next = systemFunction(&unlinkat, "unlinkat");
+    return isLetThrough({"unlinkat", name}) ? next(folder, name, flags) : -1;
+}
+
+int fstatat(int folder, const char* name, struct stat* status, int flags) __THROW {
+    static const auto next = systemFunction(&fstatat, "fstatat");
+    return isLetThrough({"fstatat", name}) ? next(folder, name, status, flags) : -1;
+}
+
+int fstat(int file, struct stat* status) __THROW {
+    static const auto next = systemFunction(&fstat, "fstat");
+    return isLetThrough({"fstat", ""}) ? next(file, status) : -1;
+}
+
+ssize_t write(int file, const void* bytes, size_t size) {
+    static const auto next = systemFunction(&write, "write");
+    return isLetThrough({"write", "", &size}) ? next(file, bytes, size) : -1;
+}
+
+int fsync(int file) {
+    static const auto next = systemFunction(&fsync, "fsync");
+    return isLetThrough({"fsync", ""}) ? next(file) : -1;
+}
+
+int renameat(int from, const char* oldName, int to, const char* newName) __THROW {
+    static const auto next = systemFunction(&renameat, "renameat");
+    return isLetThrough({"renameat", newName}) ? next(from, oldName, to, newName) : -1;
+}
+
+int mkdir(const char* path, mode_t mode) __THROW {
+    static const auto next = systemFunction(&mkdir, "mkdir");
+    return isLetThrough({"mkdir", path}) ? next(path, mode) : -1;
+}
+
+#ifdef __linux__
+
+int statx(int folder, const char* name, int flags, unsigned int fields,
+          struct statx* status) __THROW {
+    static const auto next = systemFunction(&statx, "statx");
+    return isLetThrough({"statx", name}) ? next(folder, name, flags, fields, status) : -1;
+}
+
+ssize_t getdents64(int folder, void* records, size_t size) __THROW {
+    static const auto next = systemFunction(&getdents64, "getdents64");
+    if (!isLetThrough({"getdents64", ""})) {
+        return -1;
+    }
+    const ssize_t end = next(folder, records, size);
+    for (ssize_t at = 0; drossbin::test::hidesKinds && at < end;) {
+        auto* record = reinterpret_cast<dirent64*>(static_cast<char*>(records) + at);
+        record->d_type = DT_UNKNOWN;
+        at += record->d_reclen;
+    }
+    return end;
+}
+
+#endif
+}
+
+// NOLINTEND

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string_view>
+
+namespace drossbin::test {
+
+/// While it lives, `hook` is asked before each call that this thread makes to the file system: it
+/// may make the call fail, shorten it, or change the disk in between. Its own calls go through.
+///
+/// A program that uses this has functions of its own in front of the system's: openat, unlinkat,
+/// fstatat, fstat, statx, getdents64, write, fsync, renameat and mkdir.
+class SystemCallHook {
+  public:
+    struct Call {
+        std::string_view function;
+        std::string_view name;       ///< of the entry that it is about, or empty
+        std::size_t* size = nullptr; ///< how much is to be written; may be lowered
+    };
+
+    /// Returns the error number that the call is to fail with, or 0 to let it through.
+    using Hook = std::function<int(const Call&)>;
+
+    explicit SystemCallHook(Hook hook);
+    ~SystemCallHook();
+    SystemCallHook(const SystemCallHook&) = delete;
+    SystemCallHook& operator=(const SystemCallHook&) = delete;
+    SystemCallHook(SystemCallHook&&) = delete;
+    SystemCallHook& operator=(SystemCallHook&&) = delete;
+
+    /// Makes folders keep the kinds of their entries to themselves, as some file systems do.
+    void hideKinds();
+
+  private:
+    Hook m_hook;
+};
+
+} // namespace drossbin::test
