@@ -1,0 +1,20 @@
+#include "model/DiskItem.h"
+
+#include "platform/ByteCountFormatter.h"
+#include "platform/RelativeDateTimeFormatter.h"
+
+namespace drossbin {
+
+std::string DiskItem::formattedDate(Date reference) const {
+    if (!lastAccessed) {
+        return "—";
+    }
+    return RelativeDateTimeFormatter::localizedString(
+        *lastAccessed, reference, RelativeDateTimeFormatter::UnitsStyle::abbreviated);
+}
+
+std::string DiskItem::formattedSize() const {
+    return ByteCountFormatter::string(size);
+}
+
+} // namespace drossbin
