@@ -1,0 +1,60 @@
+#include "platform/FileManager.h"
+#include "scanner/DiskScanner.h"
+
+#include <algorithm>
+
+namespace drossbin {
+
+namespace {
+
+constexpr auto category = DiskCategory::appData;
+constexpr const char* location = "/Library/Application Support/";
+constexpr std::int64_t smallestSize = 5'000'001;
+constexpr const char* safetyNote = "App support data — safe to clear; the app will recreate it.";
+
+constexpr std::array<std::string_view, 4> criticalNames{"Claude", "1Password", "Keychain",
+                                                        "Bitwarden"};
+constexpr std::array<std::string_view, 8> safeNames{
+    "Homebrew", "Yarn", "pip", "ms-playwright", "go-build", "electron", "Spotify", "Slack"};
+
+} // namespace
+
+std::vector<DiskItem> DiskScanner::scanAppData(const std::string& home) {
+    const std::string folder = home + location;
+    std::vector<DiskItem> items;
+    for (const std::string& name :
+         FileManager::contentsOfDirectory(folder).value_or(std::vector<std::string>())) {
+        if (std::ranges::count(protectedNames, name) > 0) {
+            continue;
+        }
+        const std::string path = folder + name;
+        const auto size = directorySize(path);
+        if (!size || *size < smallestSize) {
+            continue;
+        }
+        const RiskLevel risk = classifyAppDataRisk(name);
+        items.push_back({.name = name,
+                         .path = path,
+                         .size = *size,
+                         .category = category,
+                         .risk = risk,
+                         .lastAccessed = modificationDate(path),
+                         .sfSymbol = std::string(icon(category)),
+                         .safetyNote = risk == RiskLevel::safe
+                                           ? std::optional<std::string>(safetyNote)
+                                           : std::nullopt});
+    }
+    return items;
+}
+
+RiskLevel DiskScanner::classifyAppDataRisk(std::string_view name) {
+    const auto isInName = [name](std::string_view fragment) {
+        return name.find(fragment) != std::string_view::npos;
+    };
+    if (std::ranges::any_of(criticalNames, isInName)) {
+        return RiskLevel::critical;
+    }
+    return std::ranges::any_of(safeNames, isInName) ? RiskLevel::safe : RiskLevel::caution;
+}
+
+} // namespace drossbin

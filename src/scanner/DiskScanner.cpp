@@ -1,0 +1,52 @@
+#include "scanner/DiskScanner.h"
+
+#include "platform/CheckedSum.h"
+#include "platform/FileManager.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace drossbin {
+
+namespace {
+
+struct Step {
+    double fraction;
+    const char* text;
+    std::vector<DiskItem> (*find)(const std::string& home);
+};
+
+constexpr std::array<Step, 5> steps{{
+    {0.2, "Scanning program caches...", DiskScanner::scanProgramCaches},
+    {0.4, "Scanning package caches...", DiskScanner::scanPackageCaches},
+    {0.6, "Scanning app data...", DiskScanner::scanAppData},
+    {0.8, "Scanning logs...", DiskScanner::scanLogs},
+    {1.0, "Scanning old downloads...",
+     [](const std::string& home) { return DiskScanner::scanOldDownloads(home + "/Downloads"); }},
+}};
+
+} // namespace
+
+std::vector<DiskItem> DiskScanner::scan(const Progress& progress) {
+    const std::string home = FileManager::homeDirectoryForCurrentUser();
+    std::vector<DiskItem> all;
+    std::int64_t bytesFound = 0;
+    for (const Step& step : steps) {
+        progress(step.fraction, step.text, bytesFound);
+        std::vector<DiskItem> found = step.find(home);
+        for (const DiskItem& item : found) {
+            bytesFound = checkedSum(bytesFound, item.size);
+        }
+        std::ranges::move(found, std::back_inserter(all));
+    }
+    progress(1.0, "Scan complete", bytesFound);
+    std::ranges::stable_sort(all, std::ranges::greater{}, &DiskItem::size);
+    return all;
+}
+
+std::optional<Date> DiskScanner::modificationDate(const std::string& path) {
+    const auto attributes = FileManager::attributesOfItem(path);
+    return attributes ? std::optional(attributes->modificationDate) : std::nullopt;
+}
+
+} // namespace drossbin

@@ -1,0 +1,127 @@
+#include "scanner/DiskScanner.h"
+
+#include "scanner/Scans.h"
+#include "support/ScratchFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <thread>
+#include <tuple>
+
+namespace drossbin {
+namespace {
+
+using test::checkWithSystemLogs;
+using test::namesOf;
+using test::ScratchHome;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using Report = std::tuple<double, std::string, std::int64_t>;
+
+struct Scan {
+    std::vector<Report> reports;
+    std::vector<DiskItem> items;
+};
+
+Scan scan() {
+    Scan result;
+    result.items = DiskScanner::scan(
+        [&result](double fraction, const std::string& text, std::int64_t bytesFound) {
+            result.reports.emplace_back(fraction, text, bytesFound);
+        });
+    return result;
+}
+
+/// One item of each category, of sizes that tell them apart in a sum.
+void fill(const ScratchHome& home) {
+    home.file("Library/Caches/cache", 2'000'000);
+    home.file(".npm/file", 30);
+    home.file("Library/Application Support/Notes/file", 6'000'000);
+    home.file("Library/Logs/file", 1'500'000);
+    const std::string download = home.file("Downloads/old", 200'000);
+    test::setModificationDate(download, now() - std::chrono::days(60));
+}
+
+TEST(DiskScanner, reports_six_times_even_when_it_finds_nothing) {
+    checkWithSystemLogs(0, [] {
+        const ScratchHome home;
+        const Scan result = scan();
+        EXPECT_THAT(result.items, IsEmpty());
+        EXPECT_THAT(result.reports, ElementsAre(Report{0.2, "Scanning program caches...", 0},
+                                                Report{0.4, "Scanning package caches...", 0},
+                                                Report{0.6, "Scanning app data...", 0},
+                                                Report{0.8, "Scanning logs...", 0},
+                                                Report{1.0, "Scanning old downloads...", 0},
+                                                Report{1.0, "Scan complete", 0}));
+    });
+}
+
+TEST(DiskScanner, reports_before_each_step_the_bytes_of_the_steps_before) {
+    checkWithSystemLogs(3'000'000, [] {
+        const ScratchHome home;
+        fill(home);
+        const Scan result = scan();
+        EXPECT_THAT(result.reports,
+                    ElementsAre(Report{0.2, "Scanning program caches...", 0},
+                                Report{0.4, "Scanning package caches...", 2'000'000},
+                                Report{0.6, "Scanning app data...", 2'000'030},
+                                Report{0.8, "Scanning logs...", 8'000'030},
+                                Report{1.0, "Scanning old downloads...", 12'500'030},
+                                Report{1.0, "Scan complete", 12'700'030}));
+        EXPECT_THAT(namesOf(result.items),
+                    ElementsAre("Notes", "System Logs", "cache", "User Logs", "old", "npm cache"));
+    });
+}
+
+TEST(DiskScanner, sorts_largest_first_and_keeps_equal_sizes_in_the_order_found) {
+    checkWithSystemLogs(7'000'000, [] {
+        const ScratchHome home;
+        for (const char* file : {"Library/Application Support/middle", "Library/Logs/log",
+                                 "Library/Caches/first", ".npm/file"}) {
+            home.file(file, 7'000'000);
+        }
+        home.file("Library/Application Support/largest", 7'000'001);
+        home.file(".yarn/file", 6'999'999);
+        EXPECT_THAT(namesOf(scan().items), ElementsAre("largest", "first", "npm cache", "middle",
+                                                       "User Logs", "System Logs", "Yarn cache"));
+    });
+}
+
+TEST(DiskScanner, lists_twice_what_two_scans_find) {
+    checkWithSystemLogs(0, [] {
+        const ScratchHome home;
+        home.file("Library/Caches/pip/file", 2'000'000);
+        EXPECT_THAT(namesOf(scan().items), ElementsAre("pip", "pip cache"));
+    });
+}
+
+TEST(DiskScanner, makes_every_item_unselected_with_the_symbol_of_its_category) {
+    checkWithSystemLogs(2'000'000, [] {
+        const ScratchHome home;
+        fill(home);
+        const auto items = scan().items;
+        EXPECT_EQ(items.size(), 6U);
+        for (const DiskItem& item : items) {
+            EXPECT_FALSE(item.isSelected) << item.name;
+            EXPECT_EQ(item.sfSymbol, icon(item.category)) << item.name;
+        }
+    });
+}
+
+TEST(DiskScanner, may_scan_twice_at_once) {
+    checkWithSystemLogs(2'000'000, [] {
+        const ScratchHome home;
+        fill(home);
+        Scan other;
+        std::thread thread([&other] { other = scan(); });
+        const Scan own = scan();
+        thread.join();
+        EXPECT_EQ(namesOf(own.items), namesOf(other.items));
+        EXPECT_EQ(own.reports, other.reports);
+    });
+}
+
+} // namespace
+} // namespace drossbin
