@@ -1,0 +1,165 @@
+#include "app/ContentView.h"
+
+#include "app/Texts.h"
+
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <utility>
+
+namespace drossbin {
+
+ContentView::ContentView(QObject* parent)
+    : ContentView(Services::real(), parent) {}
+
+ContentView::ContentView(Services services, QObject* parent)
+    : ScreenState(parent)
+    , m_services(std::move(services))
+    , m_items(m_scanResult)
+    , m_selectedItems(m_scanResult)
+    , m_subscription(m_scanResult.objectWillChange.subscribe(
+          [this](ScanResult::Field field) { noteChange(field); })) {
+    connect(&m_motion, &MotionPreference::answered, this, &ContentView::reducesMotionChanged);
+}
+
+ContentView::Screen ContentView::screen() const {
+    if (m_scanResult.isScanning) {
+        return Scanning;
+    }
+    if (!m_scanResult.hasScanned) {
+        return Landing;
+    }
+    if (m_scanResult.items.get().empty()) {
+        return Empty;
+    }
+    return m_selectedCategory ? Category : Overview;
+}
+
+void ContentView::setShowConfirmation(bool isShown) {
+    m_scanResult.showConfirmation = isShown;
+}
+
+QString ContentView::searchText() const {
+    return toQString(m_scanResult.searchText.get());
+}
+
+void ContentView::setSearchText(const QString& text) {
+    m_scanResult.searchText = text.toStdString();
+}
+
+int ContentView::selectedCategory() const {
+    return m_selectedCategory ? static_cast<int>(*m_selectedCategory) : -1;
+}
+
+void ContentView::setSelectedCategory(int place) {
+    const bool isCategory = place >= 0 && place < static_cast<int>(allDiskCategories.size());
+    m_selectedCategory =
+        isCategory ? std::optional(static_cast<DiskCategory>(place)) : std::nullopt;
+    m_isSurveyStale = true;
+    queueRefresh();
+}
+
+// The controls that start a run are gone only when the screens have been redrawn: a second click
+// that comes before is not a second run.
+
+void ContentView::startScan(bool demo) {
+    if (!m_scanResult.isScanning) {
+        measureDisk();
+        performScan(demo);
+    }
+}
+
+void ContentView::confirmDeletion() {
+    if (!m_scanResult.isDeleting) {
+        performDeletion();
+    }
+}
+
+void ContentView::requestDeletion() {
+    m_scanResult.showConfirmation = true;
+}
+
+void ContentView::cancelDeletion() {
+    m_scanResult.showConfirmation = false;
+}
+
+void ContentView::dismissCompletion() {
+    m_scanResult.showDeletionComplete = false;
+    startScan(false);
+}
+
+void ContentView::smartSelect() {
+    m_scanResult.selectAllSafe();
+}
+
+void ContentView::selectAllInCategory() {
+    if (m_selectedCategory) {
+        m_scanResult.selectAllIn(*m_selectedCategory);
+    }
+}
+
+void ContentView::deselectAllInCategory() {
+    if (m_selectedCategory) {
+        m_scanResult.deselectAllIn(*m_selectedCategory);
+    }
+}
+
+void ContentView::clearSelection() {
+    m_scanResult.deselectAll();
+}
+
+bool ContentView::requestClose() {
+    m_closesAfterDeletion = m_scanResult.isDeleting;
+    return !m_closesAfterDeletion;
+}
+
+bool ContentView::optionHeld() {
+    return QGuiApplication::queryKeyboardModifiers().testFlag(Qt::AltModifier);
+}
+
+void ContentView::askForReducedMotion() {
+    m_motion.ask();
+}
+
+void ContentView::noteChange(ScanResult::Field field) {
+    m_isSurveyStale |= field == ScanResult::Field::items || field == ScanResult::Field::searchText;
+    queueRefresh();
+}
+
+void ContentView::queueRefresh() {
+    if (!std::exchange(m_isRefreshQueued, true)) {
+        QMetaObject::invokeMethod(this, &ContentView::refresh, Qt::QueuedConnection);
+    }
+}
+
+void ContentView::refresh() {
+    m_isRefreshQueued = false;
+    if (std::exchange(m_isSurveyStale, false)) {
+        m_survey = m_surveyor.survey(m_scanResult, m_selectedCategory);
+        m_items.refresh(m_survey);
+        m_selectedItems.refresh(m_survey);
+        m_categories.refresh(m_survey, m_selectedCategory);
+    }
+    m_deletionLog.refresh(m_scanResult.deletionLog);
+    show(Snapshot::of(m_scanResult, m_survey, m_selectedCategory, m_diskSpace));
+    announceChoices();
+}
+
+void ContentView::announceChoices() {
+    const Choices last = std::exchange(
+        m_announced, {screen(), showConfirmation(), searchText(), selectedCategory()});
+    if (last.screen != m_announced.screen) {
+        emit screenChanged();
+    }
+    if (last.showConfirmation != m_announced.showConfirmation) {
+        emit showConfirmationChanged();
+    }
+    if (last.searchText != m_announced.searchText) {
+        emit searchTextChanged();
+    }
+    if (last.selectedCategory != m_announced.selectedCategory) {
+        emit selectedCategoryChanged();
+    }
+}
+
+} // namespace drossbin

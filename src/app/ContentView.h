@@ -1,0 +1,128 @@
+#pragma once
+
+#include "app/CategoryListModel.h"
+#include "app/ItemListModel.h"
+#include "app/LogLinesModel.h"
+#include "app/MotionPreference.h"
+#include "app/ScreenState.h"
+#include "app/SelectedItemsModel.h"
+#include "app/Services.h"
+
+#include <QCoroTask>
+
+namespace drossbin {
+
+/// The root of the screens: owns the session's state, decides which screen is shown, and runs the
+/// scan and the deletion. However many changes the state announces, the screens read it once, on
+/// the next turn of the event loop. It must outlive the runs that it started.
+class ContentView : public drossbin::ScreenState {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(Screen screen READ screen NOTIFY screenChanged)
+    Q_PROPERTY(bool showConfirmation READ showConfirmation WRITE setShowConfirmation NOTIFY
+                   showConfirmationChanged)
+    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
+    Q_PROPERTY(int selectedCategory READ selectedCategory WRITE setSelectedCategory NOTIFY
+                   selectedCategoryChanged)
+    Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY reducesMotionChanged)
+    Q_PROPERTY(drossbin::CategoryListModel* categories READ categories CONSTANT)
+    Q_PROPERTY(drossbin::ItemListModel* items READ items CONSTANT)
+    Q_PROPERTY(drossbin::SelectedItemsModel* selectedItems READ selectedItems CONSTANT)
+    Q_PROPERTY(drossbin::LogLinesModel* deletionLog READ deletionLog CONSTANT)
+
+  public:
+    enum Screen { Landing, Scanning, Empty, Overview, Category };
+    Q_ENUM(Screen)
+
+    explicit ContentView(QObject* parent = nullptr);
+    explicit ContentView(Services services, QObject* parent = nullptr);
+
+    [[nodiscard]] Screen screen() const;
+    [[nodiscard]] bool showConfirmation() const { return m_scanResult.showConfirmation; }
+    void setShowConfirmation(bool isShown);
+    [[nodiscard]] QString searchText() const;
+    void setSearchText(const QString& text);
+    /// The category's place in the declared order; -1 for none.
+    [[nodiscard]] int selectedCategory() const;
+    void setSelectedCategory(int place);
+    [[nodiscard]] bool reducesMotion() const { return m_motion.isReduced(); }
+
+    CategoryListModel* categories() { return &m_categories; }
+    ItemListModel* items() { return &m_items; }
+    SelectedItemsModel* selectedItems() { return &m_selectedItems; }
+    LogLinesModel* deletionLog() { return &m_deletionLog; }
+    ScanResult& scanResult() { return m_scanResult; }
+
+    Q_INVOKABLE void startScan(bool demo);
+    Q_INVOKABLE void requestDeletion();
+    Q_INVOKABLE void cancelDeletion();
+    Q_INVOKABLE void confirmDeletion();
+    Q_INVOKABLE void dismissCompletion();
+
+    Q_INVOKABLE void smartSelect();
+    Q_INVOKABLE void selectAllInCategory();
+    Q_INVOKABLE void deselectAllInCategory();
+    Q_INVOKABLE void clearSelection();
+
+    /// Whether the window may close at once; if not, `closeNow` follows when the deletion ends.
+    Q_INVOKABLE bool requestClose();
+
+    /// Whether Option (Alt) is held at this moment.
+    [[nodiscard]] Q_INVOKABLE static bool optionHeld();
+
+    /// Asks the desktop whether it wants less motion. For the moment after the first frame: the
+    /// start does not wait for a bus.
+    Q_INVOKABLE void askForReducedMotion();
+
+  signals:
+    void screenChanged();
+    void showConfirmationChanged();
+    void searchTextChanged();
+    void selectedCategoryChanged();
+    void reducesMotionChanged();
+    void closeNow();
+
+  private:
+    /// What the screens both read and write, or are chosen by.
+    struct Choices {
+        Screen screen = Landing;
+        bool showConfirmation = false;
+        QString searchText;
+        int selectedCategory = -1;
+    };
+
+    QCoro::Task<> performScan(bool demo);
+    QCoro::Task<std::vector<DiskItem>> scanDisk();
+    QCoro::Task<std::vector<DiskItem>> scanDemo();
+    QCoro::Task<> performDeletion();
+    QCoro::Task<> measureDisk();
+    void chooseCategory();
+    [[nodiscard]] std::vector<DiskItem> itemsToDelete() const;
+
+    void noteChange(ScanResult::Field field);
+    void queueRefresh();
+    void refresh();
+    void announceChoices();
+
+    Services m_services;
+    ScanResult m_scanResult;
+    std::optional<DiskCategory> m_selectedCategory;
+    /// Until the disk has been asked, and where it cannot be, the meter's scale is an assumption.
+    static constexpr std::int64_t assumedDiskSpace = 500'000'000'000;
+    std::int64_t m_diskSpace = assumedDiskSpace;
+    bool m_closesAfterDeletion = false;
+
+    ItemSurveyor m_surveyor;
+    ItemSurvey m_survey;
+    bool m_isSurveyStale = false;
+    bool m_isRefreshQueued = false;
+    Choices m_announced;
+    CategoryListModel m_categories;
+    ItemListModel m_items;
+    SelectedItemsModel m_selectedItems;
+    LogLinesModel m_deletionLog;
+    MotionPreference m_motion;
+    ChangePublisher<ScanResult::Field>::Subscription m_subscription;
+};
+
+} // namespace drossbin

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "model/ScanResult.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace drossbin {
+
+/// Which list of items a place belongs to: selecting keeps it, a scan makes another.
+struct ListIdentity {
+    std::size_t count = 0;
+    Uuid first{};
+
+    static ListIdentity of(const std::vector<DiskItem>& items);
+    friend bool operator==(const ListIdentity&, const ListIdentity&) = default;
+};
+
+/// What the filter lets through of one category.
+struct CategorySurvey {
+    std::size_t count = 0;
+    std::int64_t size = 0;
+    std::size_t selectedCount = 0;
+    std::int64_t selectedSize = 0;
+};
+
+/// Everything that the screens tell about the items, gathered in one pass. Items are named by
+/// their place in the list, which `list` identifies.
+struct ItemSurvey {
+    ListIdentity list;
+    std::int64_t totalSize = 0;
+    std::vector<std::size_t> selected; ///< in list order, hidden by the filter or not
+    std::int64_t selectedSize = 0;
+    bool hasBrowserData = false; ///< among the selected
+    std::array<CategorySurvey, allDiskCategories.size()> categories{};
+    std::vector<std::size_t> rows; ///< of the category shown, largest first
+
+    [[nodiscard]] const CategorySurvey& of(DiskCategory category) const {
+        return categories.at(static_cast<std::size_t>(category));
+    }
+};
+
+/// Takes surveys, and remembers what selecting items cannot change: which pass the filter and
+/// which are a browser's.
+class ItemSurveyor {
+  public:
+    /// Sums that do not fit 64 bits stop the program.
+    ItemSurvey survey(const ScanResult& result, std::optional<DiskCategory> shown);
+
+  private:
+    enum class BrowserData : std::uint8_t { unknown, absent, present };
+
+    void remember(const ScanResult& result);
+    void countSelected(const DiskItem& item, std::size_t place, ItemSurvey& survey);
+    bool isBrowserData(const DiskItem& item, std::size_t place);
+
+    std::optional<ListIdentity> m_list;
+    std::string m_searchText;
+    std::vector<bool> m_passes;
+    std::vector<BrowserData> m_browserData;
+};
+
+} // namespace drossbin

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
+
+#include <string>
+#include <vector>
+
+namespace drossbin {
+
+/// The lines of the last deletion, in order.
+class LogLinesModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Owned by ContentView")
+
+  public:
+    enum Role { TextRole = Qt::UserRole, IsSuccessRole };
+
+    using QAbstractListModel::QAbstractListModel;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    void refresh(const std::vector<std::string>& lines);
+
+  private:
+    std::vector<std::string> m_lines;
+};
+
+} // namespace drossbin

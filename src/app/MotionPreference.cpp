@@ -1,0 +1,49 @@
+#include "app/MotionPreference.h"
+
+#include "app/Background.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+
+#include <utility>
+
+namespace drossbin {
+
+void MotionPreference::ask() {
+    // Without a session bus Qt would try to start one.
+    if (!std::exchange(m_wasAsked, true) && qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")) {
+        askPortal();
+    }
+}
+
+QCoro::Task<> MotionPreference::askPortal() {
+    // Connecting waits for the bus, so it is done in the background.
+    Background connecting(&QDBusConnection::sessionBus);
+    const QDBusConnection bus = co_await connecting;
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.portal.Desktop"),
+        QStringLiteral("/org/freedesktop/portal/desktop"),
+        QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("Read"));
+    question << QStringLiteral("org.gnome.desktop.interface")
+             << QStringLiteral("enable-animations");
+    m_answer = std::make_unique<QDBusPendingCallWatcher>(bus.asyncCall(question));
+    connect(m_answer.get(), &QDBusPendingCallWatcher::finished, this, &MotionPreference::read);
+}
+
+void MotionPreference::read(QDBusPendingCallWatcher* answer) {
+    const QDBusPendingReply<QDBusVariant> reply = *answer;
+    if (reply.isError()) {
+        return; // No portal, or one that knows no such setting: motion stays as it is.
+    }
+    // The portal wraps the setting's own variant in one of its own.
+    const QVariant outer = reply.value().variant();
+    const QVariant animationsAreEnabled =
+        outer.canConvert<QDBusVariant>() ? outer.value<QDBusVariant>().variant() : outer;
+    m_isReduced =
+        animationsAreEnabled.typeId() == QMetaType::Bool && !animationsAreEnabled.toBool();
+    emit answered();
+}
+
+} // namespace drossbin
