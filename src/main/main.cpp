@@ -1,0 +1,65 @@
+#include "platform/Locale.h"
+#include "platform/MainThread.h"
+
+#include <QFont>
+#include <QGuiApplication>
+#include <QLocale>
+#include <QQmlApplicationEngine>
+#include <QThreadPool>
+
+#include <cstdlib>
+#include <utility>
+
+namespace {
+
+using namespace drossbin;
+
+/// People start such a program when the disk is full: it must not fill it, nor the folders that it
+/// measures, with caches of its own.
+void writeNoCaches() {
+    qputenv("QML_DISABLE_DISK_CACHE", "1");
+    QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
+}
+
+void followTheUsersLocale() {
+    const QLocale locale = QLocale::system();
+    const bool isNone = locale.language() == QLocale::C;
+    Locale::setCurrent({isNone ? "en_US" : locale.name().toStdString()});
+}
+
+/// macOS has a font made for its screens; elsewhere the closest to it, where it is installed.
+void chooseFont() {
+#ifndef Q_OS_MACOS
+    QFont font = QGuiApplication::font();
+    font.setFamilies({QStringLiteral("Inter"), font.family()});
+    QGuiApplication::setFont(font);
+#endif
+}
+
+void connectMainThread() {
+    MainThread::connect([](MainThread::Job job) {
+        QMetaObject::invokeMethod(qApp, std::move(job), Qt::QueuedConnection);
+    });
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    writeNoCaches();
+    const QGuiApplication application(argc, argv);
+    followTheUsersLocale();
+    chooseFont();
+    connectMainThread();
+    QQmlApplicationEngine engine;
+    engine.load(QUrl(QStringLiteral("qrc:/Drossbin/Views/Main.qml")));
+    if (engine.rootObjects().isEmpty()) {
+        return EXIT_FAILURE;
+    }
+    const int result = QGuiApplication::exec();
+    if (QThreadPool::globalInstance()->activeThreadCount() > 0) {
+        // A scan is still walking the disk. It changes nothing and holds nothing that must be put
+        // away, while waiting for it would keep a closed program alive for as long as it takes.
+        std::_Exit(result);
+    }
+    return result;
+}

@@ -1,0 +1,114 @@
+import QtQuick
+import QtQuick.Layouts
+
+/// The items of one category, largest first: narrow them, select them, ask for their deletion.
+FocusScope {
+    id: pane
+
+    required property string name
+    required property string icon
+    required property string subtitle
+    required property string sizeText
+    required property string categorySummary
+    required property string searchText
+    required property var items
+    required property bool hasSelection
+    required property bool hasBrowserData
+    required property string overallSummary
+
+    signal selectAllPressed
+    signal deselectAllPressed
+    signal searchEdited(string text)
+    signal toggled(int row)
+    signal clearPressed
+    signal deletePressed
+    signal dismissed
+
+    Keys.onEscapePressed: pane.dismissed()
+    onNameChanged: list.start()
+
+    Shortcut {
+        sequence: "Ctrl+F"
+        onActivated: filter.find()
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        CategoryHeader {
+            Layout.margins: Theme.space16
+            name: pane.name
+            icon: pane.icon
+            subtitle: pane.subtitle
+            sizeText: pane.sizeText
+        }
+
+        RowLayout {
+            Layout.leftMargin: Theme.space16
+            Layout.rightMargin: Theme.space16
+            spacing: Theme.space8
+
+            PillButton {
+                label: "Select All Safe"
+                variant: "secondary"
+                onClicked: pane.selectAllPressed()
+            }
+
+            PillButton {
+                label: "Deselect All"
+                variant: "secondary"
+                onClicked: pane.deselectAllPressed()
+            }
+
+            PlainLabel {
+                Layout.fillWidth: true
+                Layout.leftMargin: Theme.space8
+                text: pane.categorySummary
+                color: Theme.blue
+                font.pixelSize: Theme.caption
+                elide: Text.ElideRight
+                horizontalAlignment: Text.AlignLeft
+            }
+        }
+
+        FilterField {
+            id: filter
+
+            Layout.fillWidth: true
+            Layout.margins: Theme.space16
+            Layout.topMargin: Theme.space12
+            Layout.bottomMargin: Theme.space12
+            searchText: pane.searchText
+            onEdited: text => pane.searchEdited(text)
+            onMovedDown: list.enter()
+        }
+
+        Divider {
+            Layout.fillWidth: true
+        }
+
+        ItemList {
+            id: list
+
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            model: pane.items
+            onToggled: row => pane.toggled(row)
+        }
+
+        Divider {
+            Layout.fillWidth: true
+            visible: pane.hasSelection
+        }
+
+        SelectionBar {
+            Layout.fillWidth: true
+            visible: pane.hasSelection
+            summary: pane.overallSummary
+            hasBrowserData: pane.hasBrowserData
+            onClearPressed: pane.clearPressed()
+            onDeletePressed: pane.deletePressed()
+        }
+    }
+}

@@ -1,0 +1,91 @@
+import QtQuick
+import QtQuick.Templates as T
+
+/// One category of the sidebar, with what it holds of the items that match the filter.
+T.ItemDelegate {
+    id: row
+
+    required property string name
+    required property string symbol
+    required property string caption
+    required property bool isCurrent
+
+    signal picked
+    /// Asked for with Control (Command on macOS) on the row that is picked.
+    signal unpicked
+
+    implicitHeight: names.implicitHeight + topPadding + bottomPadding
+    focusPolicy: Qt.NoFocus
+    verticalPadding: 2
+    horizontalPadding: Theme.space8
+    Keys.onSpacePressed: row.picked()
+    Keys.onReturnPressed: row.picked()
+    Keys.onEnterPressed: row.picked()
+    Accessible.role: Accessible.ListItem
+    Accessible.name: row.name
+    Accessible.description: row.caption
+    Accessible.selectable: true
+    Accessible.selected: row.isCurrent
+    Accessible.onPressAction: row.picked()
+    onClicked: row.picked()
+
+    background: Rectangle {
+        radius: Theme.space8
+        color: row.isCurrent ? Theme.quaternary : mouse.containsMouse ? Theme.materialHovered : "transparent"
+
+        FocusRing {
+            visible: row.visualFocus
+            gap: -2
+        }
+    }
+
+    Item {
+        anchors.fill: parent
+        anchors.leftMargin: row.leftPadding
+        anchors.rightMargin: row.rightPadding
+
+        SymbolFrame {
+            id: frame
+
+            anchors { left: parent.left; verticalCenter: parent.verticalCenter }
+            name: row.symbol
+            color: row.isCurrent ? Theme.blue : Theme.secondary
+        }
+
+        Column {
+            id: names
+
+            anchors {
+                left: frame.right
+                right: parent.right
+                leftMargin: Theme.space8
+                verticalCenter: parent.verticalCenter
+            }
+            spacing: 2
+
+            PlainLabel {
+                width: parent.width
+                text: row.name
+                elide: Text.ElideRight
+                horizontalAlignment: Text.AlignLeft
+            }
+
+            PlainLabel {
+                width: parent.width
+                text: row.caption
+                color: Theme.secondary
+                font.pixelSize: Theme.caption
+                elide: Text.ElideRight
+                horizontalAlignment: Text.AlignLeft
+            }
+        }
+    }
+
+    MouseArea {
+        id: mouse
+
+        anchors.fill: parent
+        hoverEnabled: true
+        onClicked: event => row.isCurrent && event.modifiers & Qt.ControlModifier ? row.unpicked() : row.picked()
+    }
+}

@@ -1,0 +1,42 @@
+import QtQuick
+import QtQuick.Templates as T
+
+/// A round check box. It shows what its owner says, also after it was pressed.
+T.CheckBox {
+    id: box
+
+    required property string name
+    required property bool isSelected
+
+    implicitWidth: Theme.space20
+    implicitHeight: Theme.space24
+    checked: box.isSelected
+    nextCheckState: () => box.checkState
+    focusPolicy: Qt.TabFocus
+    hoverEnabled: true
+    Keys.onReturnPressed: box.clicked()
+    Keys.onEnterPressed: box.clicked()
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: box.name
+    Accessible.checkable: true
+    Accessible.checked: box.isSelected
+    Accessible.onToggleAction: box.clicked()
+    Accessible.onPressAction: box.clicked()
+
+    background: Item {
+        FocusRing {
+            visible: box.visualFocus
+            corner: Theme.space4
+            gap: -2
+        }
+    }
+
+    contentItem: Item {
+        Symbol {
+            anchors.centerIn: parent
+            name: box.isSelected ? "checkmark.circle.fill" : "circle"
+            color: box.isSelected ? Theme.blue : box.hovered ? Theme.label : Theme.secondary
+            size: Theme.space16
+        }
+    }
+}

@@ -1,0 +1,104 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+
+/// Asks whether the selected items may go for good, and warns when a browser's are among them.
+FocusScope {
+    id: view
+
+    required property string title
+    required property string selectedSizeText
+    required property bool hasBrowserItems
+    required property var selectedItems
+
+    signal confirmed
+    signal cancelled
+
+    implicitWidth: 480
+    implicitHeight: column.implicitHeight + 48
+
+    ColumnLayout {
+        id: column
+
+        anchors.fill: parent
+        anchors.margins: 24
+        spacing: 20
+
+        Symbol {
+            Layout.alignment: Qt.AlignHCenter
+            name: "exclamationmark.triangle.fill"
+            color: Theme.symbolOrange
+            size: 40
+        }
+
+        Column {
+            Layout.alignment: Qt.AlignHCenter
+            spacing: Theme.space4
+
+            PlainLabel {
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: view.title
+                font.pixelSize: Theme.title2
+                font.weight: Font.Bold
+            }
+
+            PlainLabel {
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: "This action cannot be undone."
+                color: Theme.secondary
+            }
+        }
+
+        Row {
+            Layout.alignment: Qt.AlignHCenter
+            spacing: Theme.space8
+
+            PlainLabel {
+                text: "Space to be reclaimed:"
+                color: Theme.secondary
+            }
+
+            FigureLabel {
+                text: view.selectedSizeText
+                font.weight: Font.DemiBold
+            }
+        }
+
+        BrowserAlert {
+            Layout.fillWidth: true
+            visible: view.hasBrowserItems
+        }
+
+        SheetList {
+            Layout.fillWidth: true
+            highest: 200
+            model: view.selectedItems
+
+            delegate: SelectedItemRow {
+                width: ListView.view.width
+            }
+        }
+
+        RowLayout {
+            spacing: Theme.space12
+
+            PillButton {
+                Layout.fillWidth: true
+                Layout.preferredWidth: 1
+                focus: true
+                label: "Cancel"
+                variant: "secondary"
+                onClicked: view.cancelled()
+            }
+
+            PillButton {
+                Layout.fillWidth: true
+                Layout.preferredWidth: 1
+                label: "Confirm & Delete"
+                variant: "danger"
+                onClicked: view.confirmed()
+            }
+        }
+    }
+}

@@ -1,0 +1,49 @@
+import QtQuick
+import Drossbin.Views
+
+/// The program's sign, which breathes for as long as somebody can see it.
+Rectangle {
+    id: emblem
+
+    readonly property bool isPulsing: exposure.isSeen && emblem.visible && Theme.animated
+
+    implicitWidth: 120
+    implicitHeight: 120
+    radius: 60
+    color: Theme.tinted(Theme.blue, 0.08)
+
+    Exposure {
+        id: exposure
+
+        window: emblem.Window.window
+    }
+
+    Symbol {
+        id: sign
+
+        anchors.centerIn: parent
+        name: "sparkle.magnifyingglass"
+        size: 56
+        color: Theme.blue
+
+        SequentialAnimation on opacity {
+            loops: Animation.Infinite
+            running: emblem.isPulsing
+            onStopped: sign.opacity = 1
+
+            NumberAnimation {
+                to: 0.45
+                duration: 1000
+                easing.type: Easing.BezierSpline
+                easing.bezierCurve: Theme.easeInOut
+            }
+
+            NumberAnimation {
+                to: 1
+                duration: 1000
+                easing.type: Easing.BezierSpline
+                easing.bezierCurve: Theme.easeInOut
+            }
+        }
+    }
+}

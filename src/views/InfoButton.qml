@@ -1,0 +1,52 @@
+import QtQuick
+
+/// Opens the note on an item's risk, and gets the focus back when that is closed.
+SymbolButton {
+    id: button
+
+    required property string riskName
+    required property string riskLabel
+    required property string riskSymbol
+    required property string note
+    property RiskPopover popover: null
+    property int reasonBefore: Qt.OtherFocusReason
+    readonly property bool showInfo: button.popover !== null
+
+    function open(): void {
+        button.reasonBefore = button.focusReason;
+        button.popover = content.createObject(button, {
+            opener: button,
+            riskName: button.riskName,
+            riskLabel: button.riskLabel,
+            riskSymbol: button.riskSymbol,
+            note: button.note
+        });
+        button.popover.open();
+    }
+
+    function forget(): void {
+        button.popover.destroy();
+        button.popover = null;
+        button.forceActiveFocus(button.reasonBefore);
+    }
+
+    symbol: "info.circle"
+    name: "Information"
+    onClicked: if (button.enabled)
+        button.open()
+
+    // Made when asked for: a popup in each row would slow scrolling down.
+    Component {
+        id: content
+
+        RiskPopover {}
+    }
+
+    Connections {
+        target: button.popover
+
+        function onClosed() {
+            button.forget();
+        }
+    }
+}

@@ -1,0 +1,92 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+/// The rows of a category. Arrows walk them; Space and Return press the current one's check box.
+RowsView {
+    id: list
+
+    readonly property ItemRowView currentRow: list.currentItem as ItemRowView
+    /// A protected row cannot have the focus; the list then has it, and shows where it is.
+    readonly property bool showsFocus: list.currentRow !== null && (list.currentRow.visualFocus || (list.currentRow.isProtected && list.activeFocus))
+    readonly property int page: Math.max(1, Math.floor(list.height / 48))
+
+    signal toggled(int row)
+
+    function start(): void {
+        list.currentIndex = 0;
+        list.contentY = list.originY - list.topMargin;
+    }
+
+    function enter(): void {
+        list.forceActiveFocus(Qt.TabFocusReason);
+        list.walkTo(list.currentIndex);
+    }
+
+    function walkTo(row: int): void {
+        list.currentIndex = Math.max(0, Math.min(row, list.count - 1));
+        if (list.currentRow !== null)
+            list.currentRow.focusReason = Qt.TabFocusReason;
+    }
+
+    function pressCurrent(): void {
+        if (list.currentRow?.enabled ?? false)
+            list.toggled(list.currentIndex);
+    }
+
+    topMargin: 4
+    bottomMargin: 4
+    spacing: 2
+    highlightMoveDuration: 0
+    activeFocusOnTab: list.count > 0 && !(list.currentRow?.enabled ?? false)
+    keyNavigationEnabled: false
+    Accessible.name: "Items"
+    Keys.onUpPressed: list.walkTo(list.currentIndex - 1)
+    Keys.onDownPressed: list.walkTo(list.currentIndex + 1)
+    Keys.onSpacePressed: list.pressCurrent()
+    Keys.onReturnPressed: list.pressCurrent()
+    Keys.onEnterPressed: list.pressCurrent()
+    Keys.onPressed: event => {
+        const goals = {
+            [Qt.Key_PageUp]: list.currentIndex - list.page,
+            [Qt.Key_PageDown]: list.currentIndex + list.page,
+            [Qt.Key_Home]: 0,
+            [Qt.Key_End]: list.count - 1
+        };
+        event.accepted = event.key in goals;
+        if (event.accepted)
+            list.walkTo(goals[event.key]);
+    }
+
+    delegate: ItemRowView {
+        id: row
+
+        required property int index
+
+        x: 8
+        width: list.width - 16
+        isCurrent: ListView.isCurrentItem
+        onClicked: list.currentIndex = row.index
+        onToggled: {
+            list.currentIndex = row.index;
+            list.toggled(row.index);
+        }
+        ListView.onPooled: row.closeInfo()
+    }
+
+    // Apart from the rows, because a protected one is dimmed. (Not the view's highlight, which
+    // Qt 6.4 cannot make from a bound component.)
+    Item {
+        parent: list.contentItem
+        x: list.currentRow?.x ?? 0
+        y: list.currentRow?.y ?? 0
+        z: 1
+        width: list.currentRow?.width ?? 0
+        height: list.currentRow?.height ?? 0
+
+        FocusRing {
+            gap: -2
+            visible: list.showsFocus
+        }
+    }
+}

@@ -1,0 +1,165 @@
+import QtQuick
+import QtQuick.Templates as T
+
+/// One item of a category: whether it is selected, what it is, how risky, how old and how large.
+T.ItemDelegate {
+    id: row
+
+    required property string name
+    required property string path
+    required property string symbol
+    required property bool hasNote
+    required property string note
+    required property string riskName
+    required property string riskLabel
+    required property string riskSymbol
+    required property string dateText
+    required property string sizeText
+    required property bool isSelected
+    required property bool isProtected
+    /// Whether the keyboard is in this row: only then its controls are reached with Tab.
+    property bool isCurrent: false
+    readonly property bool showInfo: information.showInfo
+
+    signal toggled
+
+    /// Assistive programs press disabled controls too.
+    function press(): void {
+        if (!row.isProtected)
+            row.toggled();
+    }
+
+    function closeInfo(): void {
+        information.popover?.close();
+    }
+
+    implicitHeight: names.implicitHeight + topPadding + bottomPadding
+    verticalPadding: 4
+    horizontalPadding: 8
+    spacing: 12
+    enabled: !row.isProtected
+    opacity: row.isProtected ? 0.4 : 1.0
+    focusPolicy: Qt.NoFocus
+    Keys.onSpacePressed: row.press()
+    activeFocusOnTab: row.isCurrent || row.activeFocus
+    Accessible.role: Accessible.ListItem
+    Accessible.name: row.name
+    // Qt 6.4 tells assistive programs of no disabled state.
+    Accessible.description: row.isProtected ? `Disabled, ${row.path}` : row.path
+    Accessible.selectable: true
+    Accessible.selected: row.isSelected
+
+    background: Rectangle {
+        radius: 8
+        color: row.isSelected ? Theme.tinted(Theme.blue, 0.06) : "transparent"
+    }
+
+    Item {
+        anchors {
+            fill: parent
+            leftMargin: row.leftPadding
+            rightMargin: row.rightPadding
+            topMargin: row.topPadding
+            bottomMargin: row.bottomPadding
+        }
+
+        Row {
+            id: leading
+
+            anchors.left: parent.left
+            height: parent.height
+            spacing: row.spacing
+
+            CheckMark {
+                height: parent.height
+                name: row.name
+                isSelected: row.isSelected
+                activeFocusOnTab: row.isCurrent || activeFocus
+                onClicked: row.press()
+            }
+
+            SymbolFrame {
+                anchors.verticalCenter: parent.verticalCenter
+                name: row.symbol
+            }
+        }
+
+        Column {
+            id: names
+
+            anchors {
+                left: leading.right
+                right: trailing.left
+                margins: row.spacing
+            }
+
+            PlainLabel {
+                width: parent.width
+                text: row.name
+                elide: Text.ElideMiddle
+                horizontalAlignment: Text.AlignLeft
+            }
+
+            PlainLabel {
+                width: parent.width
+                text: row.path
+                color: Theme.tertiary
+                font.pixelSize: Theme.caption2
+                elide: Text.ElideMiddle
+                horizontalAlignment: Text.AlignLeft
+            }
+        }
+
+        Row {
+            id: trailing
+
+            anchors.right: parent.right
+            height: parent.height
+            spacing: row.spacing
+
+            InfoButton {
+                id: information
+
+                visible: row.hasNote
+                height: parent.height
+                riskName: row.riskName
+                riskLabel: row.riskLabel
+                riskSymbol: row.riskSymbol
+                note: row.note
+                activeFocusOnTab: row.isCurrent || activeFocus
+            }
+
+            RiskBadge {
+                anchors.verticalCenter: parent.verticalCenter
+                riskName: row.riskName
+                riskLabel: row.riskLabel
+                riskSymbol: row.riskSymbol
+            }
+
+            PlainLabel {
+                anchors.verticalCenter: parent.verticalCenter
+                width: 70
+                text: row.dateText
+                color: Theme.secondary
+                font.pixelSize: Theme.caption
+                horizontalAlignment: Text.AlignHCenter
+                elide: Text.ElideRight
+            }
+
+            Item {
+                anchors.verticalCenter: parent.verticalCenter
+                width: 80
+                height: size.height
+
+                FigureLabel {
+                    id: size
+
+                    anchors.right: parent.right
+                    text: row.sizeText
+                    scale: Math.min(1, parent.width / width)
+                    transformOrigin: row.mirrored ? Item.Left : Item.Right
+                }
+            }
+        }
+    }
+}

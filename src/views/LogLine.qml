@@ -1,0 +1,32 @@
+import QtQuick
+
+/// What became of one item. Failures are red.
+Item {
+    id: line
+
+    required property string text
+    required property bool isSuccess
+
+    implicitHeight: label.implicitHeight + Theme.space8
+    Accessible.role: Accessible.ListItem
+    Accessible.name: line.text
+
+    PlainLabel {
+        id: label
+
+        anchors {
+            left: parent.left
+            right: parent.right
+            leftMargin: Theme.space12
+            rightMargin: Theme.space12
+            verticalCenter: parent.verticalCenter
+        }
+        text: line.text
+        color: line.isSuccess ? Theme.label : Theme.red
+        font.pixelSize: Theme.caption
+        wrapMode: Text.Wrap
+        maximumLineCount: 3
+        elide: Text.ElideRight
+        horizontalAlignment: Text.AlignLeft
+    }
+}

@@ -1,0 +1,75 @@
+import QtQuick
+import QtQuick.Templates as T
+import Drossbin.App
+
+T.ApplicationWindow {
+    id: window
+
+    readonly property bool isLanding: content.screen === ContentView.Landing
+
+    // By address: what the landing screen does not show is not read at the start.
+    function startSession(): void {
+        session.setSource("Session.qml", {
+            content: content
+        });
+        session.forceActiveFocus();
+    }
+
+    width: 900
+    height: 650
+    minimumWidth: 900
+    minimumHeight: 650
+    visible: true
+    title: "Drossbin"
+    color: Theme.window
+    // Without it the controls take the desktop's font, not the program's.
+    font: Application.font
+    onSceneGraphInitialized: afterFirstFrame.start()
+    onIsLandingChanged: if (!window.isLanding)
+        window.startSession()
+    onClosing: close => close.accepted = content.requestClose()
+
+    ContentView {
+        id: content
+
+        onCloseNow: window.close()
+    }
+
+    Timer {
+        id: afterFirstFrame
+
+        interval: 0
+        onTriggered: content.askForReducedMotion()
+    }
+
+    Binding {
+        target: Theme
+        property: "animated"
+        value: !content.reducesMotion
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Close, StandardKey.Quit] // qmllint disable unqualified
+        context: Qt.ApplicationShortcut
+        onActivated: window.close()
+    }
+
+    Item {
+        anchors.fill: parent
+        LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
+        LayoutMirroring.childrenInherit: true
+
+        LandingView {
+            anchors.fill: parent
+            visible: window.isLanding
+            onScan: content.startScan(content.optionHeld())
+        }
+
+        Loader {
+            id: session
+
+            anchors.fill: parent
+            focus: true
+        }
+    }
+}

@@ -1,0 +1,73 @@
+import QtQuick
+
+/// The sum of what was found, and the two buttons that act on all of it.
+Item {
+    id: header
+
+    required property string totalSummary
+    required property bool hasSelection
+    required property string deleteLabel
+
+    signal smartSelect
+    signal deletionRequested
+
+    implicitHeight: Math.max(titles.height, buttons.height) + 2 * Theme.space20
+
+    Column {
+        id: titles
+
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.space20
+        anchors.right: buttons.left
+        anchors.rightMargin: Theme.space16
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: Theme.space4
+
+        PlainLabel {
+            width: parent.width
+            text: "Drossbin"
+            font.pixelSize: Theme.largeTitle
+            font.weight: Font.Bold
+            horizontalAlignment: Text.AlignLeft
+        }
+
+        PlainLabel {
+            width: parent.width
+            text: header.totalSummary
+            color: Theme.secondary
+            horizontalAlignment: Text.AlignLeft
+            wrapMode: Text.Wrap
+        }
+    }
+
+    Column {
+        id: buttons
+
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.space20
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.max(select.implicitWidth, remove.visible ? remove.implicitWidth : 0)
+        spacing: Theme.space8
+
+        PillButton {
+            id: select
+
+            anchors.right: parent.right
+            label: "Smart Select"
+            symbol: "wand.and.stars"
+            hint: "Select all items marked as safe to delete"
+            onClicked: header.smartSelect()
+        }
+
+        PillButton {
+            id: remove
+
+            anchors.right: parent.right
+            visible: header.hasSelection
+            label: header.deleteLabel
+            symbol: "trash"
+            variant: "danger"
+            onClicked: header.deletionRequested()
+        }
+    }
+}

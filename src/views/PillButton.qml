@@ -1,0 +1,65 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+/// The one look of an action: a capsule that says in its colour what the action means.
+PressButton {
+    id: button
+
+    /// "primary", "secondary" or "danger".
+    property string variant: "primary"
+    property string symbol: ""
+    property string hint: ""
+    readonly property bool isSecondary: button.variant === "secondary"
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    horizontalPadding: 24
+    verticalPadding: 10
+    scale: button.down ? 0.95 : 1
+    Accessible.description: button.hint
+
+    Behavior on scale {
+        NumberAnimation {
+            duration: Theme.pressed
+            easing.type: Easing.BezierSpline
+            easing.bezierCurve: Theme.easeOut
+        }
+    }
+
+    background: Rectangle {
+        radius: height / 2
+        color: button.isSecondary ? Theme.secondaryFill : button.variant === "danger" ? Theme.dangerFill : Theme.primaryFill
+        border.width: button.isSecondary ? 1 : 0
+        border.color: Theme.outline
+
+        Rectangle {
+            anchors.fill: parent
+            radius: height / 2
+            color: button.isSecondary && !Theme.dark ? "black" : "white"
+            opacity: button.hovered && !button.down ? 0.06 : 0
+        }
+
+        FocusRing {
+            visible: button.visualFocus
+            corner: parent.height / 2
+        }
+    }
+
+    contentItem: SymbolLabel {
+        text: button.label
+        symbol: button.symbol
+        color: button.isSecondary ? Theme.secondary : Theme.bright
+        font: button.font
+    }
+
+    font {
+        pixelSize: 14
+        weight: Font.DemiBold
+    }
+
+    Tip {
+        text: button.hint
+        visible: button.hint !== "" && button.hovered && !button.down
+    }
+}

@@ -1,0 +1,60 @@
+import QtQuick
+import Drossbin.Views
+
+/// A ring that fills clockwise from its top; what it holds stands in its middle.
+Item {
+    id: ring
+
+    required property real progress
+    required property string name
+    property real lineWidth: 6
+    default property alias content: middle.data
+    readonly property real value: Math.round(ring.progress * 100)
+    readonly property real minimumValue: 0
+    readonly property real maximumValue: 100
+    readonly property real stepSize: 1
+
+    /// A new run starts with an empty ring; it does not unwind the last one.
+    function follow(): void {
+        motion.stop();
+        motion.to = ring.progress;
+        if (ring.progress < arc.progress)
+            arc.progress = ring.progress;
+        else
+            motion.start();
+    }
+
+    implicitWidth: 140
+    implicitHeight: 140
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: ring.name
+    onProgressChanged: ring.follow()
+
+    ProgressArc {
+        id: arc
+
+        anchors.fill: parent
+        lineWidth: ring.lineWidth
+        trackColor: Theme.quaternary
+        arcColor: Theme.blue
+        Component.onCompleted: arc.progress = ring.progress
+    }
+
+    NumberAnimation {
+        id: motion
+
+        target: arc
+        property: "progress"
+        duration: Theme.progressed
+        easing.type: Easing.BezierSpline
+        easing.bezierCurve: Theme.easeInOut
+    }
+
+    Item {
+        id: middle
+
+        anchors.centerIn: parent
+        width: childrenRect.width
+        height: childrenRect.height
+    }
+}

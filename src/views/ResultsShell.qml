@@ -1,0 +1,72 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+/// The two columns: the sidebar under its toolbar, and the detail beside it.
+FocusScope {
+    id: shell
+
+    required property bool canScan
+    property alias sidebar: sidebarArea.data
+    default property alias detail: detailArea.data
+
+    signal scan
+    signal escaped
+
+    focus: true
+    Keys.onEscapePressed: shell.escaped()
+
+    Rectangle {
+        id: column
+
+        anchors.left: parent.left
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        width: 240
+        color: Theme.sidebar
+
+        Item {
+            id: toolbar
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            height: 48
+
+            ToolbarButton {
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.space8
+                anchors.verticalCenter: parent.verticalCenter
+                label: "Scan"
+                symbol: "arrow.clockwise"
+                enabled: shell.canScan
+                onClicked: shell.scan()
+            }
+        }
+
+        Item {
+            id: sidebarArea
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: toolbar.bottom
+            anchors.bottom: parent.bottom
+        }
+    }
+
+    Divider {
+        id: line
+
+        anchors.left: column.right
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+    }
+
+    Item {
+        id: detailArea
+
+        anchors.left: line.right
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+    }
+}

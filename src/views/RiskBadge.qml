@@ -1,0 +1,36 @@
+import QtQuick
+
+/// The small coloured capsule that names an item's risk.
+Rectangle {
+    id: badge
+
+    required property string riskName
+    required property string riskLabel
+    required property string riskSymbol
+
+    implicitWidth: content.implicitWidth + 16
+    implicitHeight: content.implicitHeight + 6
+    radius: height / 2
+    color: Theme.tinted(Theme.riskColor(badge.riskName), 0.15)
+
+    Row {
+        id: content
+
+        anchors.centerIn: parent
+        spacing: 3
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            name: badge.riskSymbol
+            color: Theme.riskColor(badge.riskName)
+            size: Theme.caption2
+        }
+
+        PlainLabel {
+            anchors.verticalCenter: parent.verticalCenter
+            text: badge.riskLabel
+            color: Theme.riskColor(badge.riskName)
+            font.pixelSize: Theme.caption2
+        }
+    }
+}

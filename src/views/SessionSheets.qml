@@ -1,0 +1,50 @@
+import QtQuick
+import Drossbin.App
+
+/// The three sheets around a deletion, each up while its part of the state says so.
+Item {
+    id: sheets
+
+    required property ContentView content
+
+    Sheet {
+        shown: sheets.content.showConfirmation
+        name: sheets.content.confirmationTitle
+        onEscaped: sheets.content.cancelDeletion()
+
+        DeletionConfirmView {
+            focus: true
+            title: sheets.content.confirmationTitle
+            selectedSizeText: sheets.content.selectedSizeText
+            hasBrowserItems: sheets.content.hasBrowserData
+            selectedItems: sheets.content.selectedItems
+            onConfirmed: sheets.content.confirmDeletion()
+            onCancelled: sheets.content.cancelDeletion()
+        }
+    }
+
+    // Nothing but the deletion's end closes this one.
+    Sheet {
+        shown: sheets.content.isDeleting
+        name: "Deleting files..."
+
+        DeletionProgressView {
+            focus: true
+            progress: sheets.content.deleteProgress
+            percentText: sheets.content.deletePercentText
+        }
+    }
+
+    Sheet {
+        shown: sheets.content.showDeletionComplete
+        name: "Cleanup Complete!"
+        onEscaped: sheets.content.dismissCompletion()
+
+        DeletionCompleteView {
+            focus: true
+            freedSpaceText: sheets.content.freedSpaceText
+            log: sheets.content.deletionLog
+            onDismissed: sheets.content.dismissCompletion()
+        }
+    }
+}

@@ -1,0 +1,31 @@
+import QtQuick
+
+/// A list in a sheet: as high as its rows, but no higher than `highest`, on a rounded panel.
+Rectangle {
+    id: panel
+
+    property alias model: rows.model
+    property alias delegate: rows.delegate
+    required property real highest
+
+    implicitHeight: Math.min(panel.highest, rows.contentHeight + 2 * Theme.space4)
+    radius: Theme.space8
+    color: Theme.material
+
+    FocusRing {
+        visible: rows.activeFocus
+        gap: 0
+    }
+
+    RowsView {
+        id: rows
+
+        anchors.fill: parent
+        anchors.topMargin: Theme.space4
+        anchors.bottomMargin: Theme.space4
+        activeFocusOnTab: rows.contentHeight > rows.height
+        keyNavigationEnabled: false
+        Keys.onUpPressed: rows.scrollBy(-Theme.space32)
+        Keys.onDownPressed: rows.scrollBy(Theme.space32)
+    }
+}

@@ -1,0 +1,91 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+
+/// The categories to pick from and, below them, the storage meter.
+FocusScope {
+    id: sidebar
+
+    required property var categories
+    /// -1 when none is picked.
+    required property int selectedCategory
+    required property string meterCaption
+    required property string meterText
+    required property bool isReclaiming
+    required property real foundShare
+    required property real selectedShare
+
+    signal picked(int category)
+
+    function walkTo(row: int): void {
+        sidebar.picked(Math.max(0, Math.min(row, list.count - 1)));
+        (list.currentItem as CategoryRow).focusReason = Qt.TabFocusReason;
+    }
+
+    implicitWidth: 240
+
+    MouseArea {
+        anchors.fill: parent
+        onClicked: sidebar.picked(-1)
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        anchors.margins: Theme.space12
+        spacing: Theme.space8
+
+        PlainLabel {
+            Layout.leftMargin: Theme.space8
+            text: "Categories"
+            color: Theme.secondary
+            font.pixelSize: Theme.caption2
+            font.weight: Font.DemiBold
+        }
+
+        ListView {
+            id: list
+
+            Layout.fillWidth: true
+            implicitHeight: contentHeight
+            interactive: false
+            spacing: Theme.space2
+            model: sidebar.categories
+            currentIndex: Math.max(0, sidebar.selectedCategory)
+            activeFocusOnTab: true
+            keyNavigationEnabled: false
+            Accessible.role: Accessible.List
+            Accessible.name: "Categories"
+            Keys.onUpPressed: sidebar.walkTo(sidebar.selectedCategory - 1)
+            Keys.onDownPressed: sidebar.walkTo(sidebar.selectedCategory + 1)
+
+            delegate: CategoryRow {
+                id: row
+
+                required property int index
+                required property var model
+
+                // Its role is "icon", a name that buttons have taken.
+                symbol: row.model.icon
+
+                width: ListView.view.width
+                onPicked: sidebar.picked(row.index)
+                onUnpicked: sidebar.picked(-1)
+            }
+        }
+
+        Item {
+            Layout.fillHeight: true
+        }
+
+        StorageMeter {
+            Layout.fillWidth: true
+            Layout.margins: Theme.space8
+            caption: sidebar.meterCaption
+            sizeText: sidebar.meterText
+            isReclaiming: sidebar.isReclaiming
+            foundShare: sidebar.foundShare
+            selectedShare: sidebar.selectedShare
+        }
+    }
+}

@@ -1,0 +1,18 @@
+import QtQuick
+import Drossbin.Views
+
+/// A symbol in one colour, drawn anew for each size and scale, so that it is never blurred.
+Image {
+    id: symbol
+
+    required property string name
+    property color color: Theme.label
+    property int size: Theme.body
+
+    source: symbol.name === "" ? "" : Symbols.source(symbol.name, symbol.color)
+    sourceSize.width: symbol.size
+    sourceSize.height: symbol.size
+    width: symbol.size
+    height: symbol.size
+    Accessible.ignored: true
+}

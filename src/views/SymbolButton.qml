@@ -1,0 +1,58 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+
+/// A plain button that shows nothing but a symbol.
+T.AbstractButton {
+    id: button
+
+    required property string symbol
+    required property string name
+    property string hint: ""
+    property color color: Theme.secondary
+    property int symbolSize: Theme.space16
+
+    function press(): void {
+        if (button.enabled)
+            button.clicked();
+    }
+
+    implicitWidth: Theme.space20
+    implicitHeight: Theme.space24
+    focusPolicy: Qt.TabFocus
+    hoverEnabled: true
+    Keys.onReturnPressed: button.clicked()
+    Keys.onEnterPressed: button.clicked()
+    Accessible.role: Accessible.Button
+    Accessible.name: button.name
+    // Qt 6.4 leaves what a screen reader asks of a template without an effect.
+    Accessible.onPressAction: button.press()
+    Accessible.onToggleAction: button.press()
+
+    background: Item {
+        FocusRing {
+            visible: button.visualFocus
+            corner: Theme.space4
+            gap: -2
+        }
+    }
+
+    contentItem: Item {
+        Symbol {
+            anchors.centerIn: parent
+            name: button.symbol
+            color: button.hovered && !button.down ? Theme.label : button.color
+            size: button.symbolSize
+        }
+    }
+
+    Loader {
+        active: button.hint !== "" && button.hovered && !button.down
+        sourceComponent: Tip {
+            parent: button
+            text: button.hint
+            visible: true
+        }
+    }
+}

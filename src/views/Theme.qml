@@ -1,0 +1,89 @@
+pragma Singleton
+
+import QtQuick
+import Drossbin.Views
+
+QtObject {
+    id: theme
+
+    /// False when the system asks for reduced motion: nothing moves, everything is just there.
+    property bool animated: true
+    property bool dark: theme.palette.window.hslLightness < 0.5
+    readonly property SystemPalette palette: SystemPalette {}
+
+    // Surfaces
+    readonly property color window: theme.dark ? "#1c1c1f" : "#ffffff"
+    readonly property color sidebar: theme.dark ? "#262629" : "#f3f3f6"
+    readonly property color sheet: theme.dark ? "#2a2a2d" : "#ffffff"
+    readonly property color material: theme.dark ? Qt.rgba(1, 1, 1, 0.06) : Qt.rgba(0, 0, 0, 0.035)
+    readonly property color materialHovered: theme.dark ? Qt.rgba(1, 1, 1, 0.09) : Qt.rgba(0, 0, 0, 0.055)
+    /// Under white text, so it is dark in both appearances.
+    readonly property color darkMaterial: theme.dark ? Qt.rgba(1, 1, 1, 0.08) : Qt.rgba(0.11, 0.11, 0.13, 0.86)
+    readonly property color divider: theme.dark ? Qt.rgba(1, 1, 1, 0.12) : Qt.rgba(0, 0, 0, 0.1)
+    readonly property color outline: theme.dark ? Qt.rgba(1, 1, 1, 0.16) : Qt.rgba(0, 0, 0, 0.16)
+    readonly property color dim: Qt.rgba(0, 0, 0, theme.dark ? 0.5 : 0.25)
+
+    // Texts: 4.5:1 and more on every surface above
+    readonly property color label: theme.dark ? "#f2f2f5" : "#1d1d1f"
+    readonly property color secondary: theme.dark ? "#b4b4ba" : "#58585d"
+    readonly property color tertiary: theme.dark ? "#a0a0a7" : "#66666b"
+    readonly property color quaternary: theme.dark ? "#47474c" : "#dcdce1"
+    readonly property color bright: "#ffffff"
+    readonly property color brightSecondary: "#d2d2d8"
+    readonly property color blue: theme.dark ? "#5aa7ff" : "#005edf"
+    readonly property color green: theme.dark ? "#3ddc62" : "#12682c"
+    readonly property color orange: theme.dark ? "#ffa526" : "#954900"
+    readonly property color red: theme.dark ? "#ff8077" : "#b8221a"
+
+    // Large symbols: 3:1 is enough there, and a lighter hand is friendlier
+    readonly property color symbolGreen: theme.dark ? "#32d74b" : "#209a3e"
+    readonly property color symbolOrange: theme.dark ? "#ff9f0a" : "#d86e00"
+
+    // Fills under white labels, the same in both appearances
+    readonly property color primaryFill: Qt.rgba(0, 0.42, 1, 1)
+    readonly property color secondaryFill: Qt.rgba(1, 1, 1, 0.08)
+    readonly property color dangerFill: "#d92d20"
+
+    // Type scale, in pixels
+    readonly property int largeTitle: 28
+    readonly property int title: 22
+    readonly property int title2: 18
+    readonly property int title3: 16
+    readonly property int headline: 14
+    readonly property int body: 14
+    readonly property int caption: 12
+    readonly property int caption2: 11
+
+    // Spacing scale
+    readonly property int space2: 2
+    readonly property int space4: 4
+    readonly property int space8: 8
+    readonly property int space12: 12
+    readonly property int space16: 16
+    readonly property int space20: 20
+    readonly property int space24: 24
+    readonly property int space32: 32
+
+    // Curves: the control points of the ease-out and the ease-in-out
+    readonly property var easeOut: [0, 0, 0.58, 1, 1, 1]
+    readonly property var easeInOut: [0.42, 0, 0.58, 1, 1, 1]
+
+    // Durations, in milliseconds
+    readonly property int pressed: theme.lasting(150)
+    readonly property int progressed: theme.lasting(300)
+    readonly property int warned: theme.lasting(250)
+    readonly property int standard: theme.lasting(350)
+    readonly property int sprung: theme.lasting(Spring.duration)
+
+    function lasting(milliseconds: int): int {
+        return theme.animated ? milliseconds : 0;
+    }
+
+    function riskColor(riskName: string): color {
+        return riskName === "safe" ? theme.green : riskName === "caution" ? theme.orange : theme.red;
+    }
+
+    function tinted(color: color, opacity: real): color {
+        return Qt.rgba(color.r, color.g, color.b, opacity);
+    }
+}

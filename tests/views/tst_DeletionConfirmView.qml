@@ -1,0 +1,211 @@
+import QtQuick
+import QtTest
+import Drossbin.Views
+
+TestCase {
+    id: test
+
+    name: "DeletionConfirmView"
+    when: windowShown
+    width: 900
+    height: 650
+    visible: true
+
+    readonly property string advice: "Deleting browser caches may remove saved passwords, autofill data, and login sessions. Make sure your passwords are backed up or synced before proceeding."
+
+    Finder {
+        id: find
+    }
+
+    ListModel {
+        id: three
+
+        ListElement {
+            name: "com.google.Chrome"
+            sizeText: "1.1 GB"
+            riskName: "safe"
+            riskLabel: "Safe to Clear"
+            riskSymbol: "checkmark.circle.fill"
+        }
+        ListElement {
+            name: "<h1>x</h1>"
+            sizeText: "888 MB"
+            riskName: "caution"
+            riskLabel: "Review First"
+            riskSymbol: "exclamationmark.triangle.fill"
+        }
+        ListElement {
+            name: "Keychains"
+            sizeText: "1 byte"
+            riskName: "critical"
+            riskLabel: "Protected"
+            riskSymbol: "xmark.octagon.fill"
+        }
+    }
+
+    ListModel {
+        id: many
+    }
+
+    ListModel {
+        id: none
+    }
+
+    Component {
+        id: viewComponent
+
+        DeletionConfirmView {
+            property list<string> log: []
+
+            title: "Delete 3 items?"
+            selectedSizeText: "2 GB"
+            hasBrowserItems: false
+            selectedItems: three
+            onConfirmed: log = log.concat(["confirm"])
+            onCancelled: log = log.concat(["cancel"])
+        }
+    }
+
+    function initTestCase() {
+        for (let index = 0; index < 1000; ++index)
+            many.append({ name: "item " + index, sizeText: "1 KB", riskName: "safe", riskLabel: "Safe to Clear", riskSymbol: "checkmark.circle.fill" });
+    }
+
+    function init() {
+        failOnWarning(/.?/);
+        Theme.animated = false;
+    }
+
+    function make(properties: var): DeletionConfirmView {
+        const view = createTemporaryObject(viewComponent, test, properties ?? {});
+        waitForRendering(view, 100);
+        return view;
+    }
+
+    function list(view: DeletionConfirmView): ListView {
+        return find.seen(view).find(item => item.Accessible.role === Accessible.List);
+    }
+
+    function test_shows_what_is_about_to_be_deleted() {
+        compare(find.texts(make()).join("|"), ["Delete 3 items?", "This action cannot be undone.", "Space to be reclaimed:", "2 GB",
+            "com.google.Chrome", "1.1 GB", "<h1>x</h1>", "888 MB", "Keychains", "1 byte"].join("|"));
+    }
+
+    function test_begins_with_a_warning_sign_of_40_in_orange() {
+        const symbol = find.symbol(make(), "exclamationmark.triangle.fill");
+        compare(symbol.size, 40);
+        verify(Qt.colorEqual(symbol.color, Theme.symbolOrange));
+    }
+
+    function test_stands_20_apart_padded_24() {
+        const view = make({ hasBrowserItems: true });
+        const column = view.children[0];
+        compare(column.mapToItem(view, 0, 0), Qt.point(24, 24));
+        compare(column.width, view.width - 48);
+        compare(column.height, view.height - 48);
+        let bottom = -20;
+        for (let index = 0; index < column.children.length; ++index) {
+            compare(column.children[index].y, bottom + 20);
+            bottom = column.children[index].y + column.children[index].height;
+        }
+    }
+
+    function test_rows_carry_the_symbol_and_colour_of_their_risk() {
+        const view = make();
+        const signs = [["com.google.Chrome", "checkmark.circle.fill", Theme.green], ["<h1>x</h1>", "exclamationmark.triangle.fill", Theme.orange], ["Keychains", "xmark.octagon.fill", Theme.red]];
+        for (const [name, symbol, color] of signs) {
+            const row = find.control(view, Accessible.ListItem, name);
+            verify(Qt.colorEqual(find.symbol(row, symbol).color, color));
+        }
+    }
+
+    function test_sizes_end_in_one_column() {
+        const view = make();
+        const ends = ["1.1 GB", "888 MB", "1 byte"].map(text => {
+            const size = find.label(view, text);
+            return size.mapToItem(view, size.width, 0).x;
+        });
+        compare(ends[0], ends[1]);
+        compare(ends[1], ends[2]);
+    }
+
+    function test_warns_of_browser_data_only_when_there_is_some() {
+        compare(find.label(make(), "Browser data selected"), null);
+        const view = make({ hasBrowserItems: true });
+        verify(find.label(view, "Browser data selected") !== null);
+        const text = find.label(view, test.advice);
+        compare(text.truncated, false);
+        const box = text.parent.parent;
+        compare(box.border.width, 1);
+        compare(box.radius, 8);
+        verify(box.color.a > 0 && box.color.a < 0.2);
+        const symbol = find.symbol(box, "exclamationmark.triangle.fill");
+        verify(Qt.colorEqual(symbol.color, Theme.orange));
+        compare(symbol.mapToItem(box, 0, 0).y, text.parent.mapToItem(box, 0, 0).y);
+    }
+
+    function test_list_is_as_high_as_its_rows_but_at_most_200() {
+        const few = list(make()).parent;
+        compare(few.height, 3 * 28 + 8);
+        compare(list(make({ selectedItems: many })).parent.height, 200);
+    }
+
+    function test_list_builds_only_the_rows_in_view() {
+        const view = make({ selectedItems: many });
+        verify(list(view).contentItem.children.length < 40);
+    }
+
+    function test_nothing_selected_is_an_empty_list_that_can_be_confirmed() {
+        const view = make({ title: "Delete 0 items?", selectedItems: none, selectedSizeText: "Zero KB" });
+        compare(list(view).count, 0);
+        mouseClick(find.button(view, "Confirm & Delete"));
+        compare(view.log.join(), "confirm");
+    }
+
+    function test_buttons_say_what_was_asked_for() {
+        const view = make();
+        mouseClick(find.button(view, "Cancel"));
+        compare(view.log.join(), "cancel");
+        mouseClick(find.button(view, "Confirm & Delete"));
+        compare(view.log.join(), "cancel,confirm");
+    }
+
+    function test_the_harmless_button_has_the_focus_first() {
+        const view = make();
+        view.forceActiveFocus(Qt.TabFocusReason);
+        compare(find.button(view, "Cancel").activeFocus, true);
+        keyClick(Qt.Key_Tab);
+        compare(find.button(view, "Confirm & Delete").activeFocus, true);
+        compare(find.button(view, "Confirm & Delete").variant, "danger");
+    }
+
+    function test_arrows_scroll_a_long_list_to_its_end_and_no_further() {
+        const rows = list(make({ selectedItems: many }));
+        rows.forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_Up);
+        compare(rows.contentY, 0);
+        keyClick(Qt.Key_Down);
+        compare(rows.contentY, 32);
+        for (let step = 0; step < 1000; ++step)
+            keyClick(Qt.Key_Down);
+        compare(rows.contentY, 1000 * 28 - rows.height);
+    }
+
+    function test_buttons_are_equally_wide() {
+        const view = make();
+        compare(find.button(view, "Cancel").width, find.button(view, "Confirm & Delete").width);
+    }
+
+    function test_fits_into_the_smallest_window() {
+        verify(make({ hasBrowserItems: true, selectedItems: many }).height <= 650);
+    }
+
+    function test_long_names_lose_their_middle_before_the_size() {
+        many.setProperty(0, "name", "n".repeat(255));
+        const view = make({ selectedItems: many });
+        const name = find.label(view, "n".repeat(255));
+        compare(name.elide, Text.ElideMiddle);
+        compare(name.truncated, true);
+        many.setProperty(0, "name", "item 0");
+    }
+}

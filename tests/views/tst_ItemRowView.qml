@@ -1,0 +1,257 @@
+import QtQuick
+import QtTest
+import Drossbin.Views
+
+TestCase {
+    id: test
+
+    name: "ItemRowView"
+    when: windowShown
+    width: 900
+    height: 400
+    visible: true
+
+    Finder {
+        id: find
+    }
+
+    Component {
+        id: rowComponent
+
+        ItemRowView {
+            y: 150
+            width: 660
+            name: "npm cache"
+            path: "/home/user/.npm"
+            symbol: "shippingbox"
+            hasNote: true
+            note: "Downloaded again when it is needed."
+            riskName: "safe"
+            riskLabel: "Safe to Clear"
+            riskSymbol: "checkmark.circle.fill"
+            dateText: "4 wk. ago"
+            sizeText: "1.1 GB"
+            isSelected: false
+            isProtected: false
+            isCurrent: true
+        }
+    }
+
+    SignalSpy {
+        id: toggles
+
+        signalName: "toggled"
+    }
+
+    function init() {
+        failOnWarning(/.?/);
+        Theme.animated = false;
+    }
+
+    function make(properties: var): ItemRowView {
+        const row = createTemporaryObject(rowComponent, test, properties ?? {});
+        toggles.target = row;
+        toggles.clear();
+        waitForRendering(row, 200);
+        return row;
+    }
+
+    function checkBox(row: ItemRowView): Item {
+        return find.control(row, Accessible.CheckBox, row.name);
+    }
+
+    function leftOf(item: Item, row: ItemRowView): real {
+        return item.mapToItem(row, 0, 0).x;
+    }
+
+    function rightOf(item: Item, row: ItemRowView): real {
+        return leftOf(item, row) + item.width;
+    }
+
+    function test_shows_name_path_risk_date_and_size() {
+        compare(find.texts(make()), ["npm cache", "/home/user/.npm", "Safe to Clear", "4 wk. ago", "1.1 GB"]);
+    }
+
+    function test_stands_12_apart_in_columns() {
+        const row = make();
+        const box = checkBox(row);
+        const frame = find.symbol(row, "shippingbox").parent;
+        const names = find.label(row, "npm cache");
+        const information = find.button(row, "Information");
+        const badge = find.label(row, "Safe to Clear").parent.parent;
+        const date = find.label(row, "4 wk. ago");
+        const size = find.label(row, "1.1 GB").parent;
+        compare(leftOf(box, row), 8);
+        compare(leftOf(frame, row) - rightOf(box, row), 12);
+        compare(frame.width, 20);
+        compare(leftOf(names, row) - rightOf(frame, row), 12);
+        compare(leftOf(information, row) - rightOf(names, row), 12);
+        compare(leftOf(badge, row) - rightOf(information, row), 12);
+        compare(leftOf(date, row) - rightOf(badge, row), 12);
+        compare(date.width, 70);
+        compare(date.horizontalAlignment, Text.AlignHCenter);
+        compare(leftOf(size, row) - rightOf(date, row), 12);
+        compare(size.width, 80);
+        compare(rightOf(size, row), row.width - 8);
+        compare(rightOf(find.label(row, "1.1 GB"), row), row.width - 8);
+    }
+
+    function test_is_padded_4_above_and_below() {
+        const row = make();
+        const name = find.label(row, "npm cache");
+        const path = find.label(row, "/home/user/.npm");
+        compare(name.mapToItem(row, 0, 0).y, 4);
+        compare(row.height, name.height + path.height + 8);
+        compare(name.font.pixelSize, Theme.body);
+        compare(path.font.pixelSize, Theme.caption2);
+        verify(Qt.colorEqual(path.color, Theme.tertiary));
+    }
+
+    function test_sizes_line_up_digit_by_digit() {
+        const ones = find.label(make({ sizeText: "111.1 GB" }), "111.1 GB");
+        const eights = find.label(make({ sizeText: "888.8 GB" }), "888.8 GB");
+        compare(ones.implicitWidth, eights.implicitWidth);
+    }
+
+    function test_selected_it_is_tinted_and_checked() {
+        const row = make({ isSelected: true });
+        verify(Qt.colorEqual(row.background.color, Theme.tinted(Theme.blue, 0.06)));
+        compare(row.background.radius, 8);
+        verify(find.symbol(checkBox(row), "checkmark.circle.fill") !== null);
+        compare(checkBox(row).Accessible.checked, true);
+        compare(row.Accessible.selected, true);
+    }
+
+    function test_unselected_it_has_no_colour_and_an_empty_circle() {
+        const row = make();
+        compare(row.background.color.a, 0);
+        verify(find.symbol(checkBox(row), "circle") !== null);
+        compare(checkBox(row).Accessible.checked, false);
+        compare(row.Accessible.selected, false);
+    }
+
+    function test_check_box_toggles_and_the_rest_of_the_row_does_not() {
+        const row = make();
+        mouseClick(checkBox(row));
+        compare(toggles.count, 1);
+        mouseClick(find.label(row, "npm cache"));
+        mouseClick(find.label(row, "1.1 GB"));
+        compare(toggles.count, 1);
+        // Only its owner changes what it shows.
+        compare(row.isSelected, false);
+    }
+
+    function test_keys_press_the_check_box_data() {
+        return [{ tag: "Space", key: Qt.Key_Space }, { tag: "Return", key: Qt.Key_Return }];
+    }
+
+    function test_keys_press_the_check_box(data) {
+        const row = make();
+        checkBox(row).forceActiveFocus(Qt.TabFocusReason);
+        keyClick(data.key);
+        compare(toggles.count, 1);
+    }
+
+    function test_protected_it_is_dimmed_and_does_not_react() {
+        const row = make({ isProtected: true, riskName: "critical", riskLabel: "Protected", riskSymbol: "xmark.octagon.fill" });
+        compare(row.opacity, 0.4);
+        compare(row.enabled, false);
+        mouseClick(checkBox(row));
+        mouseClick(find.button(row, "Information"));
+        // As assistive programs press them.
+        checkBox(row).clicked();
+        find.button(row, "Information").clicked();
+        compare(toggles.count, 0);
+        compare(row.showInfo, false);
+    }
+
+    function test_unprotected_it_is_opaque_and_enabled() {
+        const row = make();
+        compare(row.opacity, 1);
+        compare(row.enabled, true);
+    }
+
+    function test_without_a_note_it_has_no_information_button() {
+        compare(find.button(make({ hasNote: false, note: "" }), "Information"), null);
+    }
+
+    function test_an_empty_note_still_has_an_information_button() {
+        verify(find.button(make({ note: "" }), "Information") !== null);
+    }
+
+    function test_names_from_the_disk_are_shown_as_they_are_data() {
+        return [
+            { tag: "markup", text: "<h1>x</h1>" },
+            { tag: "image", text: "<img src=\"file:///etc/hostname\">" },
+            { tag: "ampersand", text: "a&b" },
+            { tag: "entity", text: "&lt;" }
+        ];
+    }
+
+    function test_names_from_the_disk_are_shown_as_they_are(data) {
+        const row = make({ name: data.text, path: "/" + data.text });
+        compare(find.label(row, data.text).textFormat, Text.PlainText);
+        compare(find.label(row, "/" + data.text).textFormat, Text.PlainText);
+        compare(row.Accessible.name, data.text);
+    }
+
+    function test_long_names_and_paths_lose_their_middle() {
+        const name = "n".repeat(255);
+        const path = "/p".repeat(2000);
+        const row = make({ name: name, path: path });
+        for (const text of [name, path]) {
+            const label = find.label(row, text);
+            compare(label.truncated, true);
+            compare(label.elide, Text.ElideMiddle);
+            verify(label.contentWidth <= label.width);
+            compare(label.lineCount, 1);
+        }
+    }
+
+    function test_stays_in_its_columns_at_any_width_data() {
+        return [{ tag: "narrow", width: 620 }, { tag: "wide", width: 2300 }];
+    }
+
+    function test_stays_in_its_columns_at_any_width(data) {
+        const row = make({ width: data.width, name: "n".repeat(255), sizeText: "9.22 EB" });
+        compare(rightOf(find.label(row, "9.22 EB"), row), data.width - 8);
+        compare(rightOf(find.label(row, row.name), row) + 12, leftOf(find.button(row, "Information"), row));
+    }
+
+    function test_is_mirrored_right_to_left() {
+        const row = make();
+        row.LayoutMirroring.enabled = true;
+        row.LayoutMirroring.childrenInherit = true;
+        compare(rightOf(checkBox(row), row), row.width - 8);
+        compare(leftOf(find.label(row, "1.1 GB"), row), 8);
+        compare(find.label(row, "npm cache").effectiveHorizontalAlignment, Text.AlignRight);
+    }
+
+    function test_a_size_too_long_for_its_column_shrinks_to_fit() {
+        const row = make({ sizeText: "9,999.99 exabytes" });
+        const size = find.label(row, "9,999.99 exabytes");
+        verify(size.implicitWidth > 80);
+        fuzzyCompare(size.width * size.scale, 80, 0.01);
+        compare(find.label(make(), "1.1 GB").scale, 1);
+    }
+
+    function test_is_a_list_item_named_after_the_item() {
+        const row = make();
+        compare(row.Accessible.role, Accessible.ListItem);
+        compare(row.Accessible.name, "npm cache");
+        compare(row.Accessible.description, "/home/user/.npm");
+        compare(make({ isProtected: true }).Accessible.description, "Disabled, /home/user/.npm");
+    }
+
+    function test_information_opens_the_note_and_escape_closes_it() {
+        const row = make();
+        const information = find.button(row, "Information");
+        information.forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_Space);
+        compare(row.showInfo, true);
+        keyClick(Qt.Key_Escape);
+        tryCompare(row, "showInfo", false);
+        compare(information.activeFocus, true);
+        compare(information.visualFocus, true);
+    }
+}

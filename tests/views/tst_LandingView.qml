@@ -1,0 +1,152 @@
+import QtQuick
+import QtTest
+import Drossbin.Views
+
+TestCase {
+    id: test
+
+    name: "LandingView"
+    when: windowShown
+    width: 900
+    height: 650
+    visible: true
+
+    Finder {
+        id: finder
+    }
+
+    Component {
+        id: landing
+
+        LandingView {
+            anchors.fill: parent
+        }
+    }
+
+    SignalSpy {
+        id: scans
+
+        signalName: "scan"
+    }
+
+    function init() {
+        failOnWarning(/.?/);
+        Theme.animated = true;
+        mouseMove(test, 1, 1);
+    }
+
+    function make(): LandingView {
+        const view = createTemporaryObject(landing, test);
+        scans.target = view;
+        scans.clear();
+        return view;
+    }
+
+    function emblemOf(view: LandingView): Emblem {
+        return finder.seen(view).find(item => item.isPulsing !== undefined);
+    }
+
+    function scanButton(view: LandingView): PillButton {
+        return finder.button(view, "Start System Scan");
+    }
+
+    function test_texts_from_top_to_bottom() {
+        compare(finder.texts(make()), ["Drossbin", "Free up space by clearing hidden caches,\nbrowser data, and creative app leftovers.", "Your Mac hasn't been scanned yet"]);
+    }
+
+    function test_emblem_is_a_circle_of_120_with_the_symbol_at_56() {
+        const emblem = emblemOf(make());
+        compare(emblem.width, 120);
+        compare(emblem.height, 120);
+        compare(emblem.radius, 60);
+        fuzzyCompare(emblem.color.a, 0.08, 0.003);
+        const symbol = finder.symbol(emblem, "sparkle.magnifyingglass");
+        compare(symbol.size, 56);
+        verify(Qt.colorEqual(symbol.color, Theme.blue));
+        compare(symbol.mapToItem(emblem, 28, 28), Qt.point(60, 60));
+    }
+
+    function test_emblem_pulses_while_it_is_seen() {
+        const view = make();
+        tryCompare(emblemOf(view), "isPulsing", true);
+        const symbol = finder.symbol(view, "sparkle.magnifyingglass");
+        tryVerify(() => symbol.opacity < 0.9);
+    }
+
+    function test_emblem_rests_while_it_is_not_seen() {
+        const view = make();
+        const emblem = emblemOf(view);
+        const symbol = finder.symbol(view, "sparkle.magnifyingglass");
+        view.visible = false;
+        compare(emblem.isPulsing, false);
+        compare(symbol.opacity, 1);
+    }
+
+    function test_emblem_rests_with_reduced_motion() {
+        Theme.animated = false;
+        compare(emblemOf(make()).isPulsing, false);
+    }
+
+    function test_title_is_bold_in_the_large_title_size() {
+        const font = finder.label(make(), "Drossbin").font;
+        compare(font.pixelSize, Theme.largeTitle);
+        compare(font.weight, Font.Bold);
+    }
+
+    function test_everything_is_centred() {
+        const view = make();
+        for (const item of [emblemOf(view), scanButton(view)].concat(finder.labels(view)))
+            fuzzyCompare(item.mapToItem(view, item.width / 2, 0).x, 450, 0.6);
+    }
+
+    function test_note_stands_24_above_the_bottom() {
+        const view = make();
+        const note = finder.label(view, "Your Mac hasn't been scanned yet");
+        compare(note.mapToItem(view, 0, note.height).y, 626);
+        compare(note.font.pixelSize, Theme.caption);
+        verify(Qt.colorEqual(note.color, Theme.tertiary));
+    }
+
+    function test_button_adds_its_own_padding_to_the_pills() {
+        const button = scanButton(make());
+        compare(button.variant, "primary");
+        compare(button.symbol, "magnifyingglass");
+        compare(button.leftPadding, 56);
+        compare(button.rightPadding, 56);
+        compare(button.topPadding, 24);
+        compare(button.bottomPadding, 24);
+        compare(button.width, button.implicitContentWidth + 112);
+    }
+
+    function test_button_grows_to_103_percent_under_the_pointer() {
+        const button = scanButton(make());
+        const frame = button.parent;
+        compare(frame.scale, 1);
+        mouseMove(button, button.width / 2, button.height / 2);
+        tryCompare(frame, "scale", 1.03);
+        compare(frame.transformOrigin, Item.Center);
+        mouseMove(test, 1, 1);
+        tryCompare(frame, "scale", 1);
+    }
+
+    function test_a_click_asks_for_a_scan() {
+        mouseClick(scanButton(make()));
+        compare(scans.count, 1);
+    }
+
+    function test_a_click_elsewhere_asks_for_nothing() {
+        const view = make();
+        mouseClick(view, 450, 60);
+        mouseClick(emblemOf(view));
+        compare(scans.count, 0);
+    }
+
+    function test_the_keyboard_reaches_and_presses_the_button() {
+        const view = make();
+        keyClick(Qt.Key_Tab);
+        compare(scanButton(view).visualFocus, true);
+        keyClick(Qt.Key_Return);
+        keyClick(Qt.Key_Space);
+        compare(scans.count, 2);
+    }
+}

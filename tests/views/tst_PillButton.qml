@@ -1,0 +1,168 @@
+import QtQuick
+import QtTest
+import Drossbin.Views
+
+TestCase {
+    id: test
+
+    name: "PillButton"
+    when: windowShown
+    width: 400
+    height: 300
+    visible: true
+
+    Component {
+        id: pill
+
+        PillButton {
+            x: 100
+            y: 100
+            label: "Confirm & Delete"
+        }
+    }
+
+    SignalSpy {
+        id: clicks
+
+        signalName: "clicked"
+    }
+
+    function init() {
+        failOnWarning(/.?/);
+        Theme.dark = false;
+        Theme.animated = true;
+    }
+
+    function make(properties: var): PillButton {
+        const button = createTemporaryObject(pill, test, properties ?? {});
+        clicks.target = button;
+        clicks.clear();
+        return button;
+    }
+
+    function row(button: PillButton): Row {
+        return button.contentItem.children[0];
+    }
+
+    function labelOf(button: PillButton): PlainLabel {
+        return row(button).children[1];
+    }
+
+    function test_shows_the_label_with_its_ampersand() {
+        const button = make();
+        compare(labelOf(button).text, "Confirm & Delete");
+        compare(labelOf(button).textFormat, Text.PlainText);
+        compare(button.Accessible.name, "Confirm & Delete");
+        compare(button.Accessible.role, Accessible.Button);
+    }
+
+    function test_label_is_14_pixels_semibold() {
+        const font = labelOf(make()).font;
+        compare(font.pixelSize, 14);
+        compare(font.weight, Font.DemiBold);
+    }
+
+    function test_pads_24_at_the_sides_and_10_above_and_below() {
+        const button = make();
+        compare(button.width, row(button).width + 48);
+        compare(button.height, row(button).height + 20);
+        compare(row(button).mapToItem(button, 0, 0), Qt.point(24, 10));
+    }
+
+    function test_is_a_capsule() {
+        const button = make();
+        compare(button.background.radius, button.height / 2);
+        compare(button.background.width, button.width);
+    }
+
+    function test_variants_have_their_colours_data() {
+        return [
+            { tag: "primary", fill: Qt.rgba(0, 0.42, 1, 1), label: "#ffffff" },
+            { tag: "secondary", fill: Qt.rgba(1, 1, 1, 0.08), label: Theme.secondary },
+            { tag: "danger", fill: Theme.dangerFill, label: "#ffffff" }
+        ];
+    }
+
+    function test_variants_have_their_colours(data) {
+        const button = make({ variant: data.tag });
+        verify(Qt.colorEqual(button.background.color, data.fill));
+        verify(Qt.colorEqual(labelOf(button).color, data.label));
+    }
+
+    function test_shrinks_to_95_percent_about_its_centre_in_150_milliseconds() {
+        const button = make();
+        mousePress(button);
+        tryCompare(button, "scale", 0.95);
+        compare(button.transformOrigin, Item.Center);
+        mouseRelease(button);
+        tryCompare(button, "scale", 1);
+        compare(Theme.pressed, 150);
+    }
+
+    function test_shrinks_at_once_with_reduced_motion() {
+        Theme.animated = false;
+        const button = make();
+        compare(Theme.pressed, 0);
+        mousePress(button);
+        tryCompare(button, "scale", 0.95, 50);
+        mouseRelease(button);
+    }
+
+    function test_a_click_presses_it() {
+        const button = make();
+        mouseClick(button);
+        compare(clicks.count, 1);
+    }
+
+    function test_a_click_beside_it_does_nothing() {
+        const button = make();
+        mouseClick(test, 90, 90);
+        compare(clicks.count, 0);
+    }
+
+    function test_disabled_it_looks_the_same_and_does_nothing() {
+        const button = make({ enabled: false });
+        mouseClick(button);
+        compare(clicks.count, 0);
+        compare(button.opacity, 1);
+        compare(labelOf(button).opacity, 1);
+        verify(Qt.colorEqual(button.background.color, Theme.primaryFill));
+    }
+
+    function test_keys_press_it_data() {
+        return [{ tag: "Space", key: Qt.Key_Space }, { tag: "Return", key: Qt.Key_Return }, { tag: "Enter", key: Qt.Key_Enter }];
+    }
+
+    function test_keys_press_it(data) {
+        make().forceActiveFocus(Qt.TabFocusReason);
+        keyClick(data.key);
+        compare(clicks.count, 1);
+    }
+
+    function test_other_keys_do_not_press_it() {
+        make().forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_A);
+        keyClick(Qt.Key_D, Qt.AltModifier);
+        compare(clicks.count, 0);
+    }
+
+    function test_focus_ring_shows_for_the_keyboard_only() {
+        const button = make();
+        const ring = button.background.children[1];
+        mouseClick(button);
+        compare(ring.visible, false);
+        button.focus = false;
+        button.forceActiveFocus(Qt.TabFocusReason);
+        compare(ring.visible, true);
+    }
+
+    function test_symbol_has_the_labels_colour() {
+        const button = make({ label: "Delete Selected", symbol: "trash", variant: "danger" });
+        const symbol = row(button).children[0];
+        compare(symbol.visible, true);
+        compare(symbol.name, "trash");
+        compare(symbol.size, 16);
+        verify(Qt.colorEqual(symbol.color, "#ffffff"));
+        compare(row(make()).children[0].visible, false);
+    }
+}

@@ -1,0 +1,88 @@
+import QtQuick
+import QtTest
+import Drossbin.Views
+
+TestCase {
+    id: test
+
+    name: "RiskBadge"
+    when: windowShown
+    width: 300
+    height: 200
+    visible: true
+
+    Finder {
+        id: find
+    }
+
+    Component {
+        id: badge
+
+        RiskBadge {
+            riskName: "safe"
+            riskLabel: "Safe to Clear"
+            riskSymbol: "checkmark.circle.fill"
+        }
+    }
+
+    function init() {
+        failOnWarning(/.?/);
+    }
+
+    function test_shows_symbol_and_label_in_the_colour_of_the_risk_data() {
+        return [
+            { tag: "safe", label: "Safe to Clear", symbol: "checkmark.circle.fill", color: "green" },
+            { tag: "caution", label: "Review First", symbol: "exclamationmark.triangle.fill", color: "orange" },
+            { tag: "critical", label: "Protected", symbol: "xmark.octagon.fill", color: "red" }
+        ];
+    }
+
+    function test_shows_symbol_and_label_in_the_colour_of_the_risk(data) {
+        const item = createTemporaryObject(badge, test, { riskName: data.tag, riskLabel: data.label, riskSymbol: data.symbol });
+        const color = Theme[data.color];
+        compare(find.texts(item), [data.label]);
+        verify(Qt.colorEqual(find.label(item, data.label).color, color));
+        verify(Qt.colorEqual(find.symbol(item, data.symbol).color, color));
+        verify(Qt.colorEqual(item.color, Qt.rgba(color.r, color.g, color.b, 0.15)));
+    }
+
+    function test_is_a_capsule_padded_8_and_3_around_symbol_and_label_3_apart() {
+        const item = createTemporaryObject(badge, test);
+        const symbol = find.symbol(item, "checkmark.circle.fill");
+        const label = find.label(item, "Safe to Clear");
+        compare(item.radius, item.height / 2);
+        compare(item.width, 8 + symbol.width + 3 + label.width + 8);
+        compare(item.height, label.height + 6);
+        compare(symbol.mapToItem(item, 0, 0).x, 8);
+        compare(label.mapToItem(item, 0, 0), Qt.point(8 + symbol.width + 3, 3));
+        compare(label.font.pixelSize, Theme.caption2);
+        compare(symbol.size, Theme.caption2);
+    }
+
+    function test_can_be_read_in_light_and_dark_data() {
+        return [{ tag: "light", dark: false }, { tag: "dark", dark: true }];
+    }
+
+    function luminance(color: color): real {
+        const linear = part => part <= 0.04045 ? part / 12.92 : Math.pow((part + 0.055) / 1.055, 2.4);
+        return 0.2126 * linear(color.r) + 0.7152 * linear(color.g) + 0.0722 * linear(color.b);
+    }
+
+    function over(above: color, below: color): color {
+        const mix = (a, b) => a * above.a + b * (1 - above.a);
+        return Qt.rgba(mix(above.r, below.r), mix(above.g, below.g), mix(above.b, below.b), 1);
+    }
+
+    function test_can_be_read_in_light_and_dark(data) {
+        const before = Theme.dark;
+        Theme.dark = data.dark;
+        for (const risk of ["safe", "caution", "critical"]) {
+            const text = Theme.riskColor(risk);
+            // The row below it may be selected.
+            const below = over(Theme.tinted(Theme.blue, 0.06), Theme.window);
+            const shades = [luminance(text), luminance(over(Theme.tinted(text, 0.15), below))].sort((a, b) => b - a);
+            verify((shades[0] + 0.05) / (shades[1] + 0.05) >= 4.5, risk);
+        }
+        Theme.dark = before;
+    }
+}

@@ -1,0 +1,143 @@
+import QtQuick
+import QtTest
+import Drossbin.Views
+
+TestCase {
+    id: test
+
+    name: "RiskPopover"
+    when: windowShown
+    width: 900
+    height: 650
+    visible: true
+
+    Finder {
+        id: find
+    }
+
+    Component {
+        id: buttonComponent
+
+        InfoButton {
+            x: 600
+            y: 300
+            riskName: "caution"
+            riskLabel: "Review First"
+            riskSymbol: "exclamationmark.triangle.fill"
+            note: "May hold <b>sign-ins</b>."
+        }
+    }
+
+    function init() {
+        failOnWarning(/.?/);
+        Theme.animated = false;
+    }
+
+    function opened(properties: var): InfoButton {
+        const button = createTemporaryObject(buttonComponent, test, properties ?? {});
+        mouseClick(button);
+        compare(button.showInfo, true);
+        tryCompare(button.popover, "opened", true);
+        waitForRendering(test, 100);
+        return button;
+    }
+
+    function placeOf(popover: RiskPopover): rect {
+        const place = popover.contentItem.mapToItem(null, -popover.leftPadding, -popover.topPadding);
+        return Qt.rect(place.x, place.y, popover.width, popover.height);
+    }
+
+    function test_starts_closed() {
+        compare(createTemporaryObject(buttonComponent, test).showInfo, false);
+    }
+
+    function test_shows_the_risk_and_below_it_the_note() {
+        const content = opened().popover.contentItem;
+        compare(find.texts(content), ["Review First", "May hold <b>sign-ins</b>."]);
+        const label = find.label(content, "Review First");
+        const note = find.label(content, "May hold <b>sign-ins</b>.");
+        const symbol = find.symbol(content, "exclamationmark.triangle.fill");
+        verify(Qt.colorEqual(symbol.color, Theme.orange));
+        compare(label.font.pixelSize, Theme.headline);
+        compare(label.font.weight, Font.DemiBold);
+        compare(note.font.pixelSize, Theme.body);
+        verify(Qt.colorEqual(note.color, Theme.secondary));
+        compare(note.textFormat, Text.PlainText);
+        verify(note.mapToItem(content, 0, 0).y >= label.mapToItem(content, 0, 0).y + label.height);
+    }
+
+    function test_is_280_wide_and_padded_16() {
+        const popover = opened().popover;
+        compare(popover.width, 280);
+        for (const side of ["leftPadding", "rightPadding", "topPadding", "bottomPadding"])
+            compare(popover[side], 16);
+        const symbol = find.symbol(popover.contentItem, "exclamationmark.triangle.fill");
+        compare(symbol.mapToItem(popover.contentItem, 0, 0).x, 0);
+        const note = find.label(popover.contentItem, "May hold <b>sign-ins</b>.");
+        compare(note.width, 248);
+        compare(popover.height, note.mapToItem(popover.contentItem, 0, 0).y + note.height + 32);
+    }
+
+    function test_stays_in_the_window_data() {
+        return [
+            { tag: "top left", x: 0, y: 0 },
+            { tag: "top right", x: 880, y: 0 },
+            { tag: "bottom right", x: 880, y: 626 },
+            { tag: "middle", x: 450, y: 320 }
+        ];
+    }
+
+    function test_stays_in_the_window(data) {
+        const button = opened({ x: data.x, y: data.y, note: "A long note. ".repeat(30) });
+        const place = placeOf(button.popover);
+        verify(place.left >= 0 && place.right <= 900 && place.top >= 0 && place.bottom <= 650);
+        const covered = place.top < data.y + button.height && place.bottom > data.y;
+        compare(covered, false, "the button stays in sight");
+    }
+
+    function test_a_click_beside_it_closes_it() {
+        const button = opened();
+        mouseClick(test, 10, 600);
+        tryCompare(button, "showInfo", false);
+    }
+
+    function test_a_click_inside_keeps_it() {
+        const button = opened();
+        mouseClick(button.popover.contentItem);
+        compare(button.showInfo, true);
+    }
+
+    function test_keys_close_it_data() {
+        return [{ tag: "Escape", key: Qt.Key_Escape }, { tag: "Space", key: Qt.Key_Space }, { tag: "Return", key: Qt.Key_Return }];
+    }
+
+    function test_keys_close_it(data) {
+        const button = opened();
+        keyClick(data.key);
+        tryCompare(button, "showInfo", false);
+        compare(button.activeFocus, true);
+    }
+
+    function test_other_keys_keep_it() {
+        const button = opened();
+        keyClick(Qt.Key_A);
+        compare(button.showInfo, true);
+    }
+
+    function test_focus_ring_comes_back_to_those_who_came_by_key() {
+        const button = createTemporaryObject(buttonComponent, test);
+        button.forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_Return);
+        tryCompare(button.popover, "opened", true);
+        keyClick(Qt.Key_Escape);
+        tryCompare(button, "showInfo", false);
+        compare(button.visualFocus, true);
+    }
+
+    function test_is_a_dialog_that_reads_the_note() {
+        const content = opened().popover.contentItem;
+        compare(content.Accessible.role, Accessible.Dialog);
+        compare(content.Accessible.name, "Review First");
+        compare(content.Accessible.description, "May hold <b>sign-ins</b>.");
+    }
+}

@@ -1,0 +1,167 @@
+import QtQuick
+import QtQuick.Templates as T
+import QtTest
+import Drossbin.Views
+
+Item {
+    T.ApplicationWindow {
+        id: host
+
+        width: 900
+        height: 650
+        visible: true
+
+        TestCase {
+            id: test
+
+            name: "Sheet"
+            when: host.active
+            visible: true
+            width: 900
+            height: 650
+
+            Item {
+                id: page
+
+                property int clicks: 0
+
+                anchors.fill: parent
+
+                PillButton {
+                    id: below
+
+                    label: "Below"
+                    onClicked: ++page.clicks
+                }
+
+                Sheet {
+                    id: sheet
+
+                    property int escapes: 0
+
+                    shown: false
+                    name: "Delete 3 items?"
+                    onEscaped: ++sheet.escapes
+
+                    Column {
+                        PillButton {
+                            id: first
+
+                            label: "Cancel"
+                            focus: true
+                        }
+
+                        PillButton {
+                            id: second
+
+                            label: "Delete"
+                        }
+                    }
+                }
+            }
+
+            function init() {
+                failOnWarning(/.?/);
+                Theme.animated = false;
+                page.clicks = 0;
+                sheet.escapes = 0;
+                below.forceActiveFocus(Qt.TabFocusReason);
+            }
+
+            function cleanup() {
+                sheet.shown = false;
+                tryCompare(sheet, "visible", false);
+            }
+
+            function open() {
+                sheet.shown = true;
+                tryCompare(sheet, "opened", true);
+            }
+
+            function test_stands_in_the_middle_of_the_window() {
+                open();
+                const window = sheet.parent;
+                compare(sheet.x, Math.round((window.width - sheet.width) / 2));
+                compare(sheet.y, Math.round((window.height - sheet.height) / 2));
+            }
+
+            function test_comes_down_and_leaves_again() {
+                Theme.animated = true;
+                sheet.shown = true;
+                const settled = Math.round((sheet.parent.height - sheet.height) / 2);
+                tryVerify(() => sheet.y < settled);
+                tryCompare(sheet, "opened", true);
+                compare(sheet.y, settled);
+                compare(sheet.opacity, 1);
+                sheet.shown = false;
+                verify(sheet.visible);
+                tryCompare(sheet, "visible", false);
+            }
+
+            function test_stays_in_the_middle_when_it_grows_while_it_comes() {
+                Theme.animated = true;
+                sheet.shown = true;
+                first.verticalPadding = 60;
+                tryCompare(sheet, "opened", true);
+                tryCompare(sheet, "y", Math.round((sheet.parent.height - sheet.height) / 2));
+                first.verticalPadding = 10;
+            }
+
+            function test_window_below_takes_no_clicks() {
+                open();
+                mouseClick(test, 40, 20);
+                compare(page.clicks, 0);
+                verify(sheet.opened);
+                cleanup();
+                tryCompare(sheet.parent, "visible", false);
+                mouseClick(test, 20, 20);
+                compare(page.clicks, 1);
+            }
+
+            function test_keeps_the_focus_inside() {
+                open();
+                compare(first.activeFocus, true);
+                keyClick(Qt.Key_Tab);
+                compare(second.activeFocus, true);
+                keyClick(Qt.Key_Tab);
+                compare(first.activeFocus, true);
+                keyClick(Qt.Key_Backtab);
+                compare(second.activeFocus, true);
+            }
+
+            function test_gives_the_focus_back() {
+                open();
+                compare(below.activeFocus, false);
+                cleanup();
+                tryCompare(below, "activeFocus", true);
+                compare(below.visualFocus, true);
+            }
+
+            function test_gives_the_focus_back_without_a_ring_where_there_was_none() {
+                below.focus = false;
+                below.forceActiveFocus(Qt.MouseFocusReason);
+                open();
+                cleanup();
+                tryCompare(below, "activeFocus", true);
+                compare(below.visualFocus, false);
+            }
+
+            function test_escape_is_passed_on_and_closes_nothing_by_itself() {
+                open();
+                keyClick(Qt.Key_Escape);
+                compare(sheet.escapes, 1);
+                compare(sheet.opened, true);
+            }
+
+            function test_escape_without_a_sheet_does_nothing() {
+                keyClick(Qt.Key_Escape);
+                compare(sheet.escapes, 0);
+            }
+
+            function test_is_a_dialog_with_its_name() {
+                compare(sheet.contentItem.Accessible.role, Accessible.Dialog);
+                compare(sheet.contentItem.Accessible.name, "Delete 3 items?");
+            }
+        }
+    }
+}

@@ -1,0 +1,189 @@
+import QtQuick
+import QtTest
+import Drossbin.Views
+
+TestCase {
+    id: test
+
+    name: "SidebarView"
+    when: windowShown
+    width: 300
+    height: 650
+    visible: true
+
+    readonly property list<string> categoryNames: ["Program Caches", "Package Caches", "App Data", "Log Files", "Old Downloads"]
+
+    Finder {
+        id: find
+    }
+
+    Categories {
+        id: categories
+    }
+
+    SidebarView {
+        id: sidebar
+
+        property list<int> log: []
+
+        width: 240
+        height: 650
+        categories: categories
+        selectedCategory: -1
+        meterCaption: "Cache Found"
+        meterText: "29.7 GB"
+        isReclaiming: false
+        foundShare: 0.25
+        selectedShare: 0
+        onPicked: category => {
+            sidebar.log = sidebar.log.concat([category]);
+            sidebar.selectedCategory = category;
+            categories.choose(category);
+        }
+    }
+
+    function init() {
+        failOnWarning(/.?/);
+        Theme.animated = false;
+        sidebar.picked(-1);
+        sidebar.log = [];
+    }
+
+    function row(name: string): CategoryRow {
+        return find.control(sidebar, Accessible.ListItem, name);
+    }
+
+    function list(): ListView {
+        return find.control(sidebar, Accessible.List, "Categories");
+    }
+
+    function test_shows_the_categories_in_order_and_then_the_meter() {
+        compare(find.texts(sidebar).join("|"), ["Categories",
+            "Program Caches", "3 items · 4 MB", "Package Caches", "7 items · 8.1 GB", "App Data", "0 items · Zero KB",
+            "Log Files", "1 items · 1 byte", "Old Downloads", "100,000 items · 9.22 EB",
+            "Cache Found", "29.7 GB"].join("|"));
+    }
+
+    function test_is_at_least_240_wide() {
+        compare(sidebar.implicitWidth, 240);
+        for (const label of find.labels(sidebar))
+            verify(!label.truncated, label.text);
+    }
+
+    function test_rows_have_their_measures() {
+        const item = row("Log Files");
+        const frame = find.symbol(item, "doc.text").parent;
+        const name = find.label(item, "Log Files");
+        const caption = find.label(item, "1 items · 1 byte");
+        compare(frame.width, 20);
+        compare(name.mapToItem(item, 0, 0).y, 2);
+        compare(caption.mapToItem(item, 0, 0).y, 2 + name.height + 2);
+        compare(item.height, 2 + name.height + 2 + caption.height + 2);
+        compare(name.font.pixelSize, Theme.body);
+        compare(caption.font.pixelSize, Theme.caption);
+        verify(Qt.colorEqual(caption.color, Theme.secondary));
+    }
+
+    function test_only_the_picked_symbol_is_blue() {
+        sidebar.picked(1);
+        verify(Qt.colorEqual(find.symbol(sidebar, "shippingbox").color, Theme.blue));
+        for (const name of ["trash", "square.stack.3d.up", "doc.text", "arrow.down.circle"])
+            verify(Qt.colorEqual(find.symbol(sidebar, name).color, Theme.secondary), name);
+    }
+
+    function test_with_none_picked_every_symbol_is_secondary() {
+        for (const name of ["trash", "shippingbox", "square.stack.3d.up", "doc.text", "arrow.down.circle"])
+            verify(Qt.colorEqual(find.symbol(sidebar, name).color, Theme.secondary), name);
+    }
+
+    function test_a_click_picks() {
+        mouseClick(row("App Data"));
+        compare(sidebar.log, [2]);
+        compare(row("App Data").Accessible.selected, true);
+        compare(row("Log Files").Accessible.selected, false);
+    }
+
+    function test_a_click_on_the_picked_row_keeps_it() {
+        sidebar.picked(2);
+        mouseClick(row("App Data"));
+        compare(sidebar.selectedCategory, 2);
+    }
+
+    function test_a_click_on_the_empty_part_picks_none() {
+        sidebar.picked(2);
+        mouseClick(sidebar, 120, 400);
+        compare(sidebar.selectedCategory, -1);
+    }
+
+    function test_a_control_click_on_the_picked_row_picks_none() {
+        sidebar.picked(2);
+        mouseClick(row("App Data"), 20, 10, Qt.LeftButton, Qt.ControlModifier);
+        compare(sidebar.selectedCategory, -1);
+    }
+
+    function test_a_control_click_on_another_row_picks_it() {
+        sidebar.picked(2);
+        mouseClick(row("Log Files"), 20, 10, Qt.LeftButton, Qt.ControlModifier);
+        compare(sidebar.selectedCategory, 3);
+    }
+
+    function test_tab_reaches_the_picked_row() {
+        sidebar.picked(3);
+        sidebar.forceActiveFocus(Qt.TabFocusReason);
+        list().forceActiveFocus(Qt.TabFocusReason);
+        compare(row("Log Files").activeFocus, true);
+    }
+
+    function test_arrows_walk_the_rows_and_stay_inside() {
+        sidebar.picked(0);
+        list().forceActiveFocus(Qt.TabFocusReason);
+        sidebar.log = [];
+        for (let step = 0; step < 6; ++step)
+            keyClick(Qt.Key_Down);
+        compare(sidebar.log, [1, 2, 3, 4, 4, 4]);
+        compare(row("Old Downloads").activeFocus, true);
+        compare(row("Old Downloads").visualFocus, true);
+        sidebar.log = [];
+        for (let step = 0; step < 5; ++step)
+            keyClick(Qt.Key_Up);
+        compare(sidebar.log, [3, 2, 1, 0, 0]);
+    }
+
+    function test_an_arrow_with_none_picked_picks_the_first() {
+        list().forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_Down);
+        compare(sidebar.log, [0]);
+    }
+
+    function test_keys_pick_the_row_that_has_the_focus_data() {
+        return [{ tag: "Space", key: Qt.Key_Space }, { tag: "Return", key: Qt.Key_Return }];
+    }
+
+    function test_keys_pick_the_row_that_has_the_focus(data) {
+        list().forceActiveFocus(Qt.TabFocusReason);
+        keyClick(data.key);
+        compare(sidebar.log, [0]);
+    }
+
+    function test_rows_are_list_items_with_their_caption_as_description() {
+        for (const name of test.categoryNames)
+            verify(row(name) !== null, name);
+        compare(row("Program Caches").Accessible.description, "3 items · 4 MB");
+        compare(list().Accessible.role, Accessible.List);
+    }
+
+    function test_captions_follow_the_model() {
+        categories.setProperty(0, "caption", "1 items · 2 KB");
+        compare(find.label(row("Program Caches"), "1 items · 2 KB").visible, true);
+        categories.setProperty(0, "caption", "3 items · 4 MB");
+    }
+
+    function test_is_mirrored_right_to_left() {
+        sidebar.LayoutMirroring.enabled = true;
+        sidebar.LayoutMirroring.childrenInherit = true;
+        const item = row("Log Files");
+        const frame = find.symbol(item, "doc.text").parent;
+        compare(frame.mapToItem(item, 0, 0).x + 20, item.width - item.rightPadding);
+        sidebar.LayoutMirroring.enabled = false;
+    }
+}

@@ -1,0 +1,139 @@
+import QtQuick
+import QtTest
+import Drossbin.Views
+
+TestCase {
+    id: test
+
+    name: "StorageMeter"
+    when: windowShown
+    width: 400
+    height: 200
+    visible: true
+
+    Finder {
+        id: find
+    }
+
+    Component {
+        id: meterComponent
+
+        StorageMeter {
+            width: 200
+            caption: "Cache Found"
+            sizeText: "29.7 GB"
+            isReclaiming: false
+            foundShare: 0.25
+            selectedShare: 0
+        }
+    }
+
+    function init() {
+        failOnWarning(/.?/);
+        Theme.animated = false;
+    }
+
+    function make(properties: var): StorageMeter {
+        return createTemporaryObject(meterComponent, test, properties ?? {});
+    }
+
+    function track(meter: StorageMeter): Rectangle {
+        return meter.children[1];
+    }
+
+    function found(meter: StorageMeter): Rectangle {
+        return track(meter).children[0];
+    }
+
+    function selected(meter: StorageMeter): Rectangle {
+        return track(meter).children[1];
+    }
+
+    function number(meter: StorageMeter): RollingText {
+        return meter.children[0].children[1];
+    }
+
+    function test_with_nothing_selected_it_shows_what_was_found() {
+        const meter = make();
+        compare(find.texts(meter), ["Cache Found", "29.7 GB"]);
+        verify(Qt.colorEqual(number(meter).color, Theme.label));
+        compare(selected(meter).visible, false);
+    }
+
+    function test_with_a_selection_it_shows_what_comes_back_in_blue() {
+        const meter = make({ caption: "Space to Reclaim", sizeText: "1 byte", isReclaiming: true });
+        compare(find.texts(meter), ["Space to Reclaim", "1 byte"]);
+        verify(Qt.colorEqual(number(meter).color, Theme.blue));
+        compare(selected(meter).visible, true);
+    }
+
+    function test_number_is_title_2_bold_under_a_caption() {
+        const meter = make();
+        compare(number(meter).font.pixelSize, Theme.title2);
+        compare(number(meter).font.weight, Font.Bold);
+        const caption = find.label(meter, "Cache Found");
+        compare(caption.font.pixelSize, Theme.caption);
+        verify(Qt.colorEqual(caption.color, Theme.secondary));
+        compare(number(meter).y - caption.height, 2);
+        compare(track(meter).y - meter.children[0].height, 8);
+    }
+
+    function test_bars_are_their_share_of_the_track() {
+        const meter = make({ isReclaiming: true, selectedShare: 0.1 });
+        compare(track(meter).width, 200);
+        compare(found(meter).width, 50);
+        compare(selected(meter).width, 20);
+        for (const bar of [track(meter), found(meter), selected(meter)])
+            compare(bar.radius, 4);
+        verify(Qt.colorEqual(track(meter).color, Theme.quaternary));
+        verify(Qt.colorEqual(found(meter).color, Theme.tinted(Theme.blue, 0.2)));
+        verify(Qt.colorEqual(selected(meter).color, Theme.blue));
+    }
+
+    function test_bars_are_never_narrower_than_4() {
+        const meter = make({ isReclaiming: true, foundShare: 0.000001, selectedShare: 0.0000001 });
+        compare(found(meter).width, 4);
+        compare(selected(meter).width, 4);
+    }
+
+    function test_more_than_the_disk_is_not_cut_off() {
+        compare(found(make({ foundShare: 1.5 })).width, 300);
+    }
+
+    function test_bars_follow_the_width_at_once() {
+        Theme.animated = true;
+        const meter = make({ isReclaiming: true, selectedShare: 0.5 });
+        meter.width = 400;
+        compare(found(meter).width, 100);
+        compare(selected(meter).width, 200);
+    }
+
+    function test_selected_bar_springs_to_a_new_share() {
+        Theme.animated = true;
+        const meter = make({ isReclaiming: true, selectedShare: 0.1 });
+        compare(selected(meter).width, 20);
+        meter.selectedShare = 0.5;
+        verify(selected(meter).width < 100);
+        let widest = 0;
+        selected(meter).widthChanged.connect(() => widest = Math.max(widest, selected(meter).width));
+        tryCompare(selected(meter), "width", 100);
+        verify(widest > 100, "a spring of this damping overshoots a little");
+    }
+
+    function test_selected_bar_does_not_move_with_reduced_motion() {
+        const meter = make({ isReclaiming: true, selectedShare: 0.1 });
+        meter.selectedShare = 0.5;
+        compare(selected(meter).width, 100);
+    }
+
+    function test_bars_grow_from_the_right_in_right_to_left() {
+        const meter = make({ isReclaiming: true, selectedShare: 0.1 });
+        meter.LayoutMirroring.enabled = true;
+        meter.LayoutMirroring.childrenInherit = true;
+        const caption = find.label(meter, "Cache Found");
+        compare(caption.mapToItem(meter, caption.width, 0).x, 200);
+        compare(number(meter).mapToItem(meter, number(meter).width, 0).x, 200);
+        compare(found(meter).x, 150);
+        compare(selected(meter).x, 180);
+    }
+}
