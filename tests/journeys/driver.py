@@ -1,0 +1,206 @@
+"""The program as a process, seen and pressed from outside: through the accessibility bus, as a
+screen reader does it, and by keys and pointer."""
+
+import contextlib
+import os
+import signal
+import subprocess
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402  (the version has to be chosen first)
+
+from desktop import dies_with_us  # noqa: E402
+
+PATIENCE = 40  # seconds; reached only when something is wrong, also on a busy machine
+
+# One look, whatever the machine.
+FIXED = {
+    "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+    "QT_QPA_PLATFORM": "xcb",
+    "QT_QUICK_BACKEND": "software",
+    "QT_SCALE_FACTOR": "1",
+    "QT_FONT_DPI": "96",
+}
+
+
+def wait_for(what, condition, patience=PATIENCE):
+    """Returns the condition's first true value; fails when there is none in time. `what` may be a
+    function that tells more when it comes to that."""
+    deadline = time.monotonic() + patience
+    while True:
+        value = condition()
+        if value:
+            return value
+        if time.monotonic() > deadline:
+            raise AssertionError(f"waited in vain for {what() if callable(what) else what}")
+        time.sleep(0.02)
+
+
+class Control:
+    """One node of the accessibility tree."""
+
+    def __init__(self, node):
+        self.node = node
+        self.role = node.get_role_name()
+        self.name = node.get_name() or ""
+
+    @property
+    def description(self):
+        return self.node.get_description() or ""
+
+    def has(self, *states):
+        found = self.node.get_state_set()
+        return all(found.contains(getattr(Atspi.StateType, state.upper())) for state in states)
+
+    @property
+    def is_shown(self):
+        return self.has("visible", "showing")
+
+    @property
+    def value(self):
+        return self.node.get_value_iface().get_current_value()
+
+    @property
+    def text(self):
+        interface = self.node.get_text_iface()
+        return interface.get_text(0, interface.get_character_count())
+
+    @property
+    def center(self):
+        area = self.node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+        return area.x + area.width / 2, area.y + area.height / 2
+
+    def act(self):
+        """Does what the control is there for: presses a button, toggles a check box."""
+        actions = self.node.get_action_iface()
+        names = [actions.get_action_name(index).lower() for index in range(actions.get_n_actions())]
+        wanted = next(name for name in ("toggle", "press") if name in names)
+        actions.do_action(names.index(wanted))
+
+    def child(self, role, name):
+        """The first control of that role and name below this one, or None."""
+        return next((c for _, c in self.walk() if (c.role, c.name) == (role, name)), None)
+
+    def children(self):
+        for index in range(self.node.get_child_count()):
+            child = self.node.get_child_at_index(index)
+            if child is not None:
+                yield Control(child)
+
+    def walk(self, depth=0):
+        yield depth, self
+        for child in self.children():
+            yield from child.walk(depth + 1)
+
+    def __str__(self):
+        return f"{self.role} {self.name!r} {self.description!r}"
+
+
+class Program:
+    """The running program. Every search waits until what it looks for is there."""
+
+    def __init__(self, world, desktop, path, wrapper=(), **environment):
+        self.desktop = desktop
+        self._errors = os.path.join(world.root, "errors")
+        with open(self._errors, "wb") as errors:
+            self.process = subprocess.Popen(
+                dies_with_us([*wrapper, *dies_with_us([path])]),
+                env=world.environment(**desktop.environment(), **FIXED, **environment),
+                stdin=subprocess.DEVNULL,
+                stdout=subprocess.DEVNULL,
+                stderr=errors,
+            )
+        self.window = wait_for("the window", lambda: desktop.window("Drossbin"))
+        wait_for("the window's controls", self._application)
+        desktop.focus(self.window)
+
+    # What is on the screen
+
+    def find(self, role, name, **how):
+        """The one shown control of that role and name."""
+        return wait_for(lambda: f"{role} {name!r} in\n{self.describe()}",
+                        lambda: self.now(role, name), **how)
+
+    def find_starting(self, role, start):
+        return wait_for(lambda: f"{role} {start!r}... in\n{self.describe()}",
+                        lambda: self._first(lambda c: c.role == role and c.name.startswith(start)))
+
+    def wait_until_gone(self, role, name):
+        wait_for(lambda: f"{role} {name!r} to go away from\n{self.describe()}",
+                 lambda: not self.now(role, name))
+
+    def now(self, role, name):
+        return self._first(lambda control: control.role == role and control.name == name)
+
+    def shown(self, role=None):
+        """All shown controls, of that role if one is given, in reading order."""
+        return [c for c in self._all() if (role is None or c.role == role) and c.is_shown]
+
+    def names(self, role):
+        return [control.name for control in self.shown(role)]
+
+    def describe(self):
+        root = self._application()
+        if root is None:
+            return f"(no window; exit code {self.process.poll()}; {self.errors()})"
+        with contextlib.suppress(GLib.Error):
+            shown = [(depth, control) for depth, control in root.walk() if control.is_shown]
+            return "\n".join("  " * depth + str(control) for depth, control in shown)
+        return "(changing)"
+
+    # What a person does
+
+    def press(self, role, name):
+        self.find(role, name).act()
+
+    def click(self, role, name):
+        self.desktop.click(*self.find(role, name).center)
+
+    def key(self, *names):
+        self.desktop.key(*names)
+
+    def focused(self):
+        """The control that the keys go to: of all that say so, the innermost."""
+        with contextlib.suppress(GLib.Error):
+            said = [control for control in self._all() if control.has("focused", "showing")]
+            return said[-1] if said else None
+        return None
+
+    def close(self):
+        """Closes the window as its frame's button does; returns the exit code."""
+        self.desktop.ask_to_close(self.window)
+        return self.process.wait(PATIENCE)
+
+    def kill(self):
+        if self.process.poll() is None:
+            self.process.send_signal(signal.SIGKILL)
+        self.process.wait()
+
+    def errors(self):
+        with open(self._errors, encoding="utf-8", errors="replace") as lines:
+            return lines.read()
+
+    def picture(self):
+        return self.desktop.picture(self.window)
+
+    def _application(self):
+        """The program in the tree; others there have no window, such as the portal."""
+        with contextlib.suppress(GLib.Error):
+            for child in Control(Atspi.get_desktop(0)).children():
+                if any(grandchild.role == "frame" for grandchild in child.children()):
+                    return child
+        return None
+
+    def _first(self, matches):
+        # The tree may change while it is walked: then the search is done again by its caller.
+        with contextlib.suppress(GLib.Error):
+            return next((c for c in self._all() if matches(c) and c.is_shown), None)
+        return None
+
+    def _all(self):
+        root = self._application()
+        if root is not None:
+            yield from (control for _, control in root.walk())

@@ -1,0 +1,20 @@
+"""A home with nothing to clean."""
+
+from journey import Journey, main
+
+
+class Empty(Journey):
+    def test_says_that_there_is_nothing_and_scans_again(self):
+        self.needs_private_logs()
+        program = self.start()
+        self.scan(program)
+        program.find("label", "Your Mac is clean!")
+        program.find("label", "No significant cache files found.")
+        self.home.file("Library/Caches/com.example.New/blob", 2_000_000)
+        program.press("push button", "Scan Again")
+        program.find("list item", "com.example.New")
+        program.wait_until_gone("label", "Your Mac is clean!")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,114 @@
+"""The whole way with the keyboard alone."""
+
+import os
+
+from driver import wait_for
+from home import title
+from journey import Journey, main
+
+FAR = 60  # more steps than any control is away
+
+
+class Keyboard(Journey):
+    def setUp(self):
+        super().setUp()
+        self.expected = self.home.furnish()
+        self.program = self.start()
+        self.key = self.program.key
+
+    def walk_to(self, role, name, step="Tab"):
+        for _ in range(FAR):
+            at = self.program.focused()
+            if at and (at.role, at.name) == (role, name):
+                return
+            self.key(*step.split("+"))
+            wait_for(f"the focus to leave {at}", lambda at=at: self.moved_from(at))
+        self.fail(f"{role} {name!r} is not reached with {step} in\n{self.program.describe()}")
+
+    def moved_from(self, before):
+        now = self.program.focused()
+        return now and (before is None or now.node != before.node)
+
+    def scan_by_keys(self):
+        self.walk_to("push button", "Start System Scan")
+        self.key("Return")
+        self.program.find("list item", "com.example.Editor")
+
+    def test_goes_from_the_first_screen_to_freed_space(self):
+        self.scan_by_keys()
+        path = self.expected["Program Caches"][0]
+        self.walk_to("text", "Filter items...")
+        self.program.desktop.type("editor")
+        self.shows_rows(self.program, ["com.example.Editor"])
+        self.key("Down")
+        self.key("space")
+        wait_for("the row to be selected",
+                 lambda: self.program.find("check box", title(path)).has("checked"))
+        self.walk_to("push button", "Delete Selected")
+        self.key("space")
+        self.walk_to("push button", "Confirm & Delete")
+        self.key("Return")
+        self.program.find("label", "Cleanup Complete!")
+        self.walk_to("push button", "Done")
+        self.key("Return")
+        self.program.wait_until_gone("label", "Cleanup Complete!")
+        self.assertFalse(os.path.exists(path))
+
+    def test_escape_is_cancel_on_the_confirmation_and_gives_the_focus_back(self):
+        self.scan_by_keys()
+        self.walk_to("push button", "Select All Safe")
+        self.key("space")
+        self.walk_to("push button", "Delete Selected")
+        self.key("Return")
+        self.program.find("push button", "Confirm & Delete")
+        self.key("Escape")
+        self.program.wait_until_gone("push button", "Confirm & Delete")
+        wait_for("the focus to come back", lambda: self.is_focused("Delete Selected"))
+
+    def is_focused(self, name):
+        focused = self.program.focused()
+        return focused and focused.name == name
+
+    def test_the_focus_stays_inside_the_sheet(self):
+        self.scan_by_keys()
+        self.walk_to("push button", "Select All Safe")
+        self.key("space")
+        self.walk_to("push button", "Delete Selected")
+        self.key("Return")
+        self.walk_to("push button", "Confirm & Delete")
+        self.key("Tab")
+        self.walk_to("push button", "Confirm & Delete")
+        self.walk_to("push button", "Cancel", step="Shift_L+Tab")
+
+    def test_control_f_goes_to_the_filter_from_anywhere(self):
+        self.scan_by_keys()
+        self.key("Control_L", "f")
+        wait_for("the filter to have the focus", lambda: self.is_focused("Filter items..."))
+
+    def test_arrows_walk_the_sidebar(self):
+        self.scan_by_keys()
+        self.walk_to("list item", "Program Caches")
+        self.key("Down")
+        self.shows_rows(self.program, ["Cargo/Rust cache", "npm cache"])
+        self.key("Up")
+        self.program.find("list item", "com.example.Editor")
+
+    def test_escape_leaves_the_list_for_the_overview(self):
+        self.scan_by_keys()
+        self.key("Escape")
+        self.walk_to("push button", "Smart Select")
+        self.key("space")
+        self.program.find_starting("push button", "Delete ")
+
+    def test_the_window_keys_close_and_quit(self):
+        self.key("Control_L", "w")
+        wait_for("the program's end", lambda: self.program.process.poll() is not None)
+        self.assertEqual(self.program.process.returncode, 0)
+        self.program = self.start()
+        self.program.key("Control_L", "q")
+        wait_for("the program's end", lambda: self.program.process.poll() is not None)
+        self.assertEqual(self.program.process.returncode, 0)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,51 @@
+"""Names that the disk may hold are shown as one plain line of text, wherever they are shown."""
+
+import os
+
+from journey import Journey, main
+
+# what is on the disk, and what is to be read on the screen
+NAMES = {
+    b"<h1>x<br>y": "<h1>x<br>y",
+    b"<img src='x.png'>": "<img src='x.png'>",
+    b"a&b": "a&b",
+    b"line\nfeed": "line\\nfeed",
+    b"esc\x1b[31mred": "esc\\x1B[31mred",
+    b"-rf": "-rf",
+    "left\u202egnp.exe".encode(): "left\\u202Egnp.exe",
+    b"no \xff utf-8": "no \ufffd utf-8",
+    b"n" * 255: "n" * 255,
+}
+
+
+class Names(Journey):
+    def setUp(self):
+        super().setUp()
+        caches = os.path.join(os.fsencode(self.home.path), b"Library/Caches")
+        for place, name in enumerate(NAMES):
+            self.home.file(os.path.join(caches, name), 9_000_000 - place * 100_000)
+        self.caches = caches
+        self.program = self.start()
+        self.desktop.resize(self.program.window, 1280, 900)
+        self.scan(self.program)
+
+    def test_every_name_has_its_row(self):
+        self.program.press("list item", "Program Caches")
+        self.shows_rows(self.program, list(NAMES.values()))
+
+    def test_every_name_is_deleted_and_has_one_line_in_the_report(self):
+        self.program.press("list item", "Program Caches")
+        self.program.press("push button", "Select All Safe")
+        self.program.press("push button", "Delete Selected")
+        self.program.press("push button", "Confirm & Delete")
+        self.program.find("label", "Cleanup Complete!")
+        self.assertEqual(os.listdir(self.caches), [])
+        (log,) = self.home.deletion_logs()
+        with open(log, encoding="utf-8") as file:
+            lines = file.read().split("\n")[2:-2]
+        self.assertEqual([line.split(": ", 1)[1].rsplit(" (", 1)[0] for line in lines],
+                         list(NAMES.values()))
+
+
+if __name__ == "__main__":
+    main()
