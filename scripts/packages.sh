@@ -7,7 +7,7 @@ package_list=(
   "build|libicu-dev|icu4c|write sizes and dates as the user's language does"
   "build|qt6-base-dev qt6-declarative-dev qt6-svg-dev libgl-dev libegl-dev|qt|draw the window"
   "build|qcoro-qt6-dev|qcoro|wait for background work without blocking the window"
-  "build|bootstrap-icons||symbols"
+  "build|bootstrap-icons|node|symbols, which are in an npm package where the system has none"
   "build|qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-layouts||screens"
   "build|qml6-module-qtquick-controls qml6-module-qtquick-templates qml6-module-qtquick-shapes||screens"
   "build|qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript||screens"
@@ -50,8 +50,8 @@ packages() {
 }
 
 install_missing_with_apt() {
-  local missing log
-  mapfile -t missing < <(packages 2 "$@" | without_installed_debs)
+  local missing=() name log
+  while read -r name; do missing+=("$name"); done < <(packages 2 "$@" | without_installed_debs)
   [ ${#missing[@]} -gt 0 ] || return 0
   say "Installing from the distribution$(with_sudo), to"
   explain_packages 2 "${missing[@]}"
@@ -73,19 +73,35 @@ without_installed_debs() {
 }
 
 install_missing_with_brew() {
-  local missing
-  mapfile -t missing < <(packages 3 "$@" | without_installed_formulae)
-  [ ${#missing[@]} -gt 0 ] || return 0
-  say "Installing with Homebrew, to"
-  explain_packages 3 "${missing[@]}"
-  brew install "${missing[@]}" || fail "Homebrew could not install: ${missing[*]}"
+  local missing=() name
+  while read -r name; do missing+=("$name"); done < <(packages 3 "$@" | without_installed_formulae)
+  if [ ${#missing[@]} -gt 0 ]; then
+    say "Installing with Homebrew, to"
+    explain_packages 3 "${missing[@]}"
+    brew install "${missing[@]}" || fail "Homebrew could not install: ${missing[*]}"
+  fi
+  [[ " $* " != *" build "* ]] || install_icons_with_npm
+  # The system has an ICU of its own, so Homebrew keeps its ICU out of everybody's way.
+  CMAKE_PREFIX_PATH=$(brew --prefix icu4c):${CMAKE_PREFIX_PATH-}
+  export CMAKE_PREFIX_PATH
+}
+
+# install_icons_with_npm: brings the symbols where no package of the system has them.
+install_icons_with_npm() {
+  [ ! -d build/node_modules/bootstrap-icons ] || return 0
+  say "Installing with npm, for the symbols: bootstrap-icons"
+  npm install --prefix build --no-save --no-package-lock --no-audit --no-fund \
+    bootstrap-icons@1.10.3 >"$(log_file npm)" 2>&1 || {
+    cat "$(log_file npm)"
+    fail "npm could not install bootstrap-icons"
+  }
 }
 
 without_installed_formulae() {
   local name installed
   installed=$(brew list --formula -1)
   while read -r name; do
-    grep -qx "$name\(@.*\)\?" <<<"$installed" || echo "$name"
+    grep -Eqx "$name(@.*)?" <<<"$installed" || echo "$name"
   done
 }
 
