@@ -64,6 +64,8 @@ FocusScope {
             selectedTextColor: Theme.bright
             font.pixelSize: Theme.body
             selectByMouse: true
+            // By the layout's direction, not by that of what was typed.
+            horizontalAlignment: TextInput.AlignLeft
             Accessible.role: Accessible.EditableText
             Accessible.name: placeholder.text
             onTextEdited: filter.edited(input.text)

@@ -56,7 +56,7 @@ T.ApplicationWindow {
 
     Item {
         anchors.fill: parent
-        LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
+        LayoutMirroring.enabled: Theme.mirrored
         LayoutMirroring.childrenInherit: true
 
         LandingView {

@@ -39,6 +39,9 @@ T.Popup {
         implicitWidth: childrenRect.width
         implicitHeight: childrenRect.height
         focus: true
+        // A popup is no child of the window's mirrored content.
+        LayoutMirroring.enabled: Theme.mirrored
+        LayoutMirroring.childrenInherit: true
         Accessible.role: Accessible.Dialog
         Accessible.name: sheet.name
         Keys.onEscapePressed: sheet.escaped()

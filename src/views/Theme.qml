@@ -8,6 +8,8 @@ QtObject {
 
     /// False when the system asks for reduced motion: nothing moves, everything is just there.
     property bool animated: true
+    /// Whether the language of the user is written from right to left: then everything is mirrored.
+    property bool mirrored: Qt.locale().textDirection === Qt.RightToLeft
     property bool dark: theme.palette.window.hslLightness < 0.5
     readonly property SystemPalette palette: SystemPalette {}
 

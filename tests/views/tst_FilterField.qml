@@ -142,4 +142,14 @@ TestCase {
         compare(input().activeFocus, true);
         compare(input().selectedText, "abc");
     }
+
+    function test_right_to_left_every_text_begins_at_the_magnifying_glass() {
+        filter.LayoutMirroring.enabled = true;
+        filter.LayoutMirroring.childrenInherit = true;
+        compare(placeholder().effectiveHorizontalAlignment, Text.AlignRight);
+        filter.searchText = "chrome";
+        compare(input().effectiveHorizontalAlignment, TextInput.AlignRight);
+        filter.LayoutMirroring.enabled = false;
+        compare(input().effectiveHorizontalAlignment, TextInput.AlignLeft);
+    }
 }

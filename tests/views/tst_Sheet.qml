@@ -44,6 +44,14 @@ Item {
                     onEscaped: ++sheet.escapes
 
                     Column {
+                        PlainLabel {
+                            id: heading
+
+                            width: 200
+                            text: "Heading"
+                            horizontalAlignment: Text.AlignLeft
+                        }
+
                         PillButton {
                             id: first
 
@@ -71,6 +79,7 @@ Item {
             function cleanup() {
                 sheet.shown = false;
                 tryCompare(sheet, "visible", false);
+                Theme.mirrored = false;
             }
 
             function open() {
@@ -156,6 +165,17 @@ Item {
             function test_escape_without_a_sheet_does_nothing() {
                 keyClick(Qt.Key_Escape);
                 compare(sheet.escapes, 0);
+            }
+
+            function test_is_mirrored_right_to_left_data() {
+                return [{ tag: "right to left", mirrored: true, alignment: Text.AlignRight }, { tag: "left to right", mirrored: false, alignment: Text.AlignLeft }];
+            }
+
+            function test_is_mirrored_right_to_left(data) {
+                Theme.mirrored = data.mirrored;
+                open();
+                compare(heading.effectiveHorizontalAlignment, data.alignment);
+                compare(first.mirrored, data.mirrored);
             }
 
             function test_is_a_dialog_with_its_name() {
