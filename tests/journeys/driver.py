@@ -174,6 +174,15 @@ class Program:
         self.desktop.ask_to_close(self.window)
         return self.process.wait(PATIENCE)
 
+    @contextlib.contextmanager
+    def held_still(self):
+        """Stops the program's clock, for a look at what passes quickly."""
+        self.process.send_signal(signal.SIGSTOP)
+        try:
+            yield
+        finally:
+            self.process.send_signal(signal.SIGCONT)
+
     def kill(self):
         if self.process.poll() is None:
             self.process.send_signal(signal.SIGKILL)
