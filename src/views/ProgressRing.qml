@@ -9,10 +9,6 @@ Item {
     required property string name
     property real lineWidth: 6
     default property alias content: middle.data
-    readonly property real value: Math.round(ring.progress * 100)
-    readonly property real minimumValue: 0
-    readonly property real maximumValue: 100
-    readonly property real stepSize: 1
 
     /// A new run starts with an empty ring; it does not unwind the last one.
     function follow(): void {
@@ -26,8 +22,6 @@ Item {
 
     implicitWidth: 140
     implicitHeight: 140
-    Accessible.role: Accessible.ProgressBar
-    Accessible.name: ring.name
     onProgressChanged: ring.follow()
 
     ProgressArc {
@@ -38,6 +32,13 @@ Item {
         trackColor: Theme.quaternary
         arcColor: Theme.blue
         Component.onCompleted: arc.progress = ring.progress
+    }
+
+    AccessItem {
+        anchors.fill: parent
+        value: ring.progress
+        Accessible.role: Accessible.ProgressBar
+        Accessible.name: ring.name
     }
 
     NumberAnimation {

@@ -61,7 +61,9 @@ class Control:
 
     @property
     def value(self):
-        return self.node.get_value_iface().get_current_value()
+        """What it is at, and the least and most that it can be."""
+        value = self.node.get_value_iface()
+        return value.get_current_value(), value.get_minimum_value(), value.get_maximum_value()
 
     @property
     def text(self):
