@@ -22,13 +22,12 @@ T.AbstractButton {
     implicitHeight: Theme.space24
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
-    Keys.onReturnPressed: button.clicked()
-    Keys.onEnterPressed: button.clicked()
+    Keys.onReturnPressed: button.press()
+    Keys.onEnterPressed: button.press()
     Accessible.role: Accessible.Button
     Accessible.name: button.name
     // Qt 6.4 leaves what a screen reader asks of a template without an effect.
     Accessible.onPressAction: button.press()
-    Accessible.onToggleAction: button.press()
 
     background: Item {
         FocusRing {
