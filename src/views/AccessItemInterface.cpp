@@ -51,6 +51,7 @@ QAccessible::State AccessItemInterface::state() const {
     QAccessible::State state;
     state.disabled = !item()->isEnabled();
     state.checkable = role() == QAccessible::CheckBox;
+    state.checked = said(item(), QStringLiteral("Accessible.checked")).toBool();
     state.readOnly = role() == QAccessible::ProgressBar;
     state.invisible = window() == nullptr || !item()->isVisible();
     state.offscreen = !state.invisible && !window()->geometry().intersects(rect());

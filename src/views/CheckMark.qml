@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Drossbin.Views
 
 /// A round check box. It shows what its owner says, also after it was pressed.
 T.CheckBox {
@@ -18,6 +19,7 @@ T.CheckBox {
     Keys.onEnterPressed: box.clicked()
     Accessible.role: Accessible.CheckBox
     Accessible.name: box.name
+    Accessible.ignored: !box.enabled
     Accessible.checkable: true
     Accessible.checked: box.isSelected
     Accessible.onToggleAction: box.clicked()
@@ -38,5 +40,13 @@ T.CheckBox {
             color: box.isSelected ? Theme.blue : box.hovered ? Theme.label : Theme.secondary
             size: Theme.space16
         }
+    }
+
+    AccessItem {
+        anchors.fill: parent
+        Accessible.ignored: box.enabled
+        Accessible.role: Accessible.CheckBox
+        Accessible.name: box.name
+        Accessible.checked: box.isSelected
     }
 }

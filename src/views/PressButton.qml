@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Drossbin.Views
 
 /// What every button here does, whatever it looks like: the pointer, Space, Return and a screen
 /// reader press it alike.
@@ -20,6 +21,14 @@ T.AbstractButton {
     Keys.onEnterPressed: button.press()
     Accessible.role: Accessible.Button
     Accessible.name: button.label
+    Accessible.ignored: !button.enabled
     // Qt 6.4 leaves what a screen reader asks of a template without an effect.
     Accessible.onPressAction: button.press()
+
+    AccessItem {
+        anchors.fill: parent
+        Accessible.ignored: button.enabled
+        Accessible.role: Accessible.Button
+        Accessible.name: button.label
+    }
 }

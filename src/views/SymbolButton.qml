@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import Drossbin.Views
 
 /// A plain button that shows nothing but a symbol.
 T.AbstractButton {
@@ -26,6 +27,7 @@ T.AbstractButton {
     Keys.onEnterPressed: button.press()
     Accessible.role: Accessible.Button
     Accessible.name: button.name
+    Accessible.ignored: !button.enabled
     // Qt 6.4 leaves what a screen reader asks of a template without an effect.
     Accessible.onPressAction: button.press()
 
@@ -44,6 +46,13 @@ T.AbstractButton {
             color: button.hovered && !button.down ? Theme.label : button.color
             size: button.symbolSize
         }
+    }
+
+    AccessItem {
+        anchors.fill: parent
+        Accessible.ignored: button.enabled
+        Accessible.role: Accessible.Button
+        Accessible.name: button.name
     }
 
     Loader {

@@ -36,6 +36,28 @@ class ScreenReader(Journey):
         # What stands in the ring is read too.
         program.find("label", "found")
 
+    def test_a_protected_item_can_be_read_but_not_used(self):
+        program = self.start()
+        self.scan(program)
+        program.press("list item", "App Data")
+        protected = program.find("list item", "Bitwarden")
+        for name in ("Bitwarden", "Protected", "5.5 MB"):
+            self.assertTrue(protected.child("label", name).has("enabled", "showing"))
+        self.assertEqual(self.usable(protected), {"check box": False, "push button": False})
+        self.assertEqual(self.usable(program.find("list item", "Slack")), {"check box": True, "push button": True})
+
+    def usable(self, row):
+        controls = [c for c in row.children() if c.role in ("check box", "push button")]
+        return {control.role: control.has("enabled", "sensitive") for control in controls}
+
+    def test_a_scan_cannot_be_started_while_one_runs(self):
+        program = self.start_slow_on("Library/Application Support/Sketchpad")
+        program.press("push button", "Start System Scan")
+        program.find("label", "Scanning app data...")
+        self.assertFalse(program.find("push button", "Scan").has("sensitive"))
+        self.wait_for_scan(program)
+        self.assertTrue(program.find("push button", "Scan").has("sensitive"))
+
 
 if __name__ == "__main__":
     main()

@@ -81,6 +81,7 @@ TestCase {
         const badge = find.label(row, "Safe to Clear").parent.parent;
         const date = find.label(row, "4 wk. ago");
         const size = find.label(row, "1.1 GB").parent;
+        tryVerify(() => leftOf(badge, row) > leftOf(information, row)); // laid out
         compare(leftOf(box, row), 8);
         compare(leftOf(frame, row) - rightOf(box, row), 12);
         compare(frame.width, 20);
@@ -163,6 +164,21 @@ TestCase {
         find.button(row, "Information").clicked();
         compare(toggles.count, 0);
         compare(row.showInfo, false);
+    }
+
+    function test_protected_its_controls_are_told_to_be_disabled_data() {
+        return [{ tag: "protected", isProtected: true }, { tag: "unprotected", isProtected: false }];
+    }
+
+    function test_protected_its_controls_are_told_to_be_disabled(data) {
+        const row = make({ isProtected: data.isProtected });
+        for (const [role, name] of [[Accessible.CheckBox, row.name], [Accessible.Button, "Information"]]) {
+            const told = find.seen(row).filter(item => item.Accessible.role === role && item.Accessible.name === name && !item.Accessible.ignored);
+            compare(told.length, 1);
+            compare(told[0] instanceof AccessItem, data.isProtected);
+            compare(told[0].enabled, !data.isProtected);
+        }
+        compare(find.texts(row)[0], "npm cache");
     }
 
     function test_unprotected_it_is_opaque_and_enabled() {
