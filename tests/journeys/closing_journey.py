@@ -21,7 +21,7 @@ class Closing(Journey):
         self.folder = os.path.dirname(last)
 
     def start_slowly(self, milliseconds):
-        return self.start(wrapper=slow.on(self.folder, milliseconds), **slow.LEAKS_UNSEEN)
+        return self.start(wrapper=slow.on(self.folder, milliseconds))
 
     def test_the_program_ends_at_once_during_a_scan(self):
         program = self.start_slowly(SLOWLY)

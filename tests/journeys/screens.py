@@ -125,7 +125,7 @@ class Walk:
 
     def _start_slowly(self, folder, milliseconds=2_000):
         held = slow.on(folder, milliseconds) if slow.is_possible() else ()
-        return self._start(wrapper=held, **slow.LEAKS_UNSEEN)
+        return self._start(wrapper=held)
 
 
 def at_rest(program):

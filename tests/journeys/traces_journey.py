@@ -22,7 +22,7 @@ class Traces(Journey):
 
     def start_traced(self):
         watch = ["strace", "-f", "-qq", "-y", "-s", "4096", "-o", self.trace, "-e", f"trace={CALLS}"]
-        return self.start(wrapper=watch, **slow.LEAKS_UNSEEN)
+        return self.start(wrapper=watch)
 
     def written(self):
         """The paths that were opened for writing, made or renamed, from the trace."""
