@@ -59,8 +59,8 @@ void ContentView::setSelectedCategory(int place) {
     queueRefresh();
 }
 
-// The controls that start a run are gone only when the screens have been redrawn: a second click
-// that comes before is not a second run.
+// The controls that start a run are gone only when the screens have been redrawn, and a sheet takes
+// its time to leave: a second press that comes before is not a second run.
 
 void ContentView::startScan(bool demo) {
     if (!m_scanResult.isScanning) {
@@ -70,7 +70,7 @@ void ContentView::startScan(bool demo) {
 }
 
 void ContentView::confirmDeletion() {
-    if (!m_scanResult.isDeleting) {
+    if (m_scanResult.showConfirmation && !m_scanResult.isDeleting) {
         performDeletion();
     }
 }
@@ -84,8 +84,10 @@ void ContentView::cancelDeletion() {
 }
 
 void ContentView::dismissCompletion() {
-    m_scanResult.showDeletionComplete = false;
-    startScan(false);
+    if (m_scanResult.showDeletionComplete) {
+        m_scanResult.showDeletionComplete = false;
+        startScan(false);
+    }
 }
 
 void ContentView::smartSelect() {

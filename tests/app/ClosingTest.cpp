@@ -45,6 +45,7 @@ TEST_F(Closing, is_allowed_at_once_while_a_scan_runs) {
 }
 
 TEST_F(Closing, waits_for_the_end_of_a_deletion) {
+    view.requestDeletion();
     view.confirmDeletion();
     EXPECT_FALSE(view.requestClose());
     EXPECT_EQ(closings.count(), 0);
@@ -56,6 +57,7 @@ TEST_F(Closing, waits_for_the_end_of_a_deletion) {
 }
 
 TEST_F(Closing, is_not_asked_for_by_a_deletion_alone) {
+    view.requestDeletion();
     view.confirmDeletion();
     gate.release();
     test::settle();

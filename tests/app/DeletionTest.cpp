@@ -45,6 +45,11 @@ struct Deletion : ::testing::Test {
         return services;
     }
 
+    void askAndConfirm() {
+        view.requestDeletion();
+        view.confirmDeletion();
+    }
+
     void waitForTheEnd() {
         gate.release();
         test::settle();
@@ -74,21 +79,21 @@ TEST_F(Deletion, writes_the_fields_in_the_promised_order) {
 
 TEST_F(Deletion, removes_what_is_selected_in_list_order_whatever_the_search_text_hides) {
     view.setSearchText("nothing");
-    view.confirmDeletion();
+    askAndConfirm();
     waitForTheEnd();
     EXPECT_THAT(deleted, ElementsAre("/home/ada/a", "/home/ada/c"));
 }
 
 TEST_F(Deletion, can_be_of_nothing_at_all) {
     view.clearSelection();
-    view.confirmDeletion();
+    askAndConfirm();
     waitForTheEnd();
     EXPECT_THAT(deleted, IsEmpty());
     EXPECT_TRUE(view.showDeletionComplete());
 }
 
 TEST_F(Deletion, leaves_the_items_in_the_list_and_selected_until_dismissed) {
-    view.confirmDeletion();
+    askAndConfirm();
     waitForTheEnd();
     EXPECT_EQ(view.scanResult().items.get().size(), 3);
     EXPECT_EQ(view.scanResult().selectedCount(), 2);
@@ -96,7 +101,7 @@ TEST_F(Deletion, leaves_the_items_in_the_list_and_selected_until_dismissed) {
 }
 
 TEST_F(Deletion, shows_what_was_freed_and_the_log) {
-    view.confirmDeletion();
+    askAndConfirm();
     waitForTheEnd();
     EXPECT_TRUE(view.showDeletionComplete());
     EXPECT_EQ(view.freedSpaceText(), "40 bytes");
@@ -104,7 +109,7 @@ TEST_F(Deletion, shows_what_was_freed_and_the_log) {
 }
 
 TEST_F(Deletion, shows_its_progress_while_it_runs) {
-    view.confirmDeletion();
+    askAndConfirm();
     EXPECT_TRUE(turnUntil([this] { return view.deleteProgress() == 0.5; }));
     EXPECT_TRUE(view.isDeleting());
     EXPECT_EQ(view.deletePercentText(), "50%");
@@ -113,18 +118,35 @@ TEST_F(Deletion, shows_its_progress_while_it_runs) {
 }
 
 TEST_F(Deletion, is_not_started_a_second_time_while_one_runs) {
+    askAndConfirm();
     view.confirmDeletion();
-    view.confirmDeletion();
+    askAndConfirm();
     gate.release();
     waitForTheEnd();
     EXPECT_EQ(runs, 1);
+}
+
+TEST_F(Deletion, is_not_started_without_being_asked_for) {
+    view.confirmDeletion();
+    gate.release();
+    test::settle();
+    EXPECT_EQ(runs, 0);
+}
+
+TEST_F(Deletion, is_not_started_by_a_second_press_while_the_sheet_leaves) {
+    view.requestDeletion();
+    view.cancelDeletion();
+    view.confirmDeletion();
+    gate.release();
+    test::settle();
+    EXPECT_EQ(runs, 0);
 }
 
 TEST_F(Deletion, starts_a_real_scan_when_dismissed_even_after_a_demo) {
     view.startScan(true);
     test::settle();
     EXPECT_EQ(scans, 0);
-    view.confirmDeletion();
+    askAndConfirm();
     waitForTheEnd();
     test::Recorder recorder(view.scanResult());
     view.dismissCompletion();
@@ -134,6 +156,24 @@ TEST_F(Deletion, starts_a_real_scan_when_dismissed_even_after_a_demo) {
                 ElementsAre("showDeletionComplete=false", "isScanning=true", "items=[]",
                             "scanProgress=0", "bytesFoundSoFar=0", "items=[left]",
                             "isScanning=false", "hasScanned=true"));
+}
+
+TEST_F(Deletion, is_dismissed_once) {
+    askAndConfirm();
+    waitForTheEnd();
+    view.dismissCompletion();
+    test::settle();
+    view.dismissCompletion();
+    test::settle();
+    EXPECT_EQ(scans, 1);
+}
+
+TEST_F(Deletion, cannot_be_dismissed_before_its_report_is_there) {
+    askAndConfirm();
+    view.dismissCompletion();
+    EXPECT_FALSE(view.scanResult().isScanning.get());
+    waitForTheEnd();
+    EXPECT_EQ(scans, 0);
 }
 
 TEST_F(Deletion, is_asked_for_by_raising_the_confirmation_and_nothing_else) {
