@@ -35,10 +35,6 @@ ContentView::Screen ContentView::screen() const {
     return m_selectedCategory ? Category : Overview;
 }
 
-void ContentView::setShowConfirmation(bool isShown) {
-    m_scanResult.showConfirmation = isShown;
-}
-
 QString ContentView::searchText() const {
     return toQString(m_scanResult.searchText.get());
 }

@@ -19,8 +19,7 @@ class ContentView : public drossbin::ScreenState {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(Screen screen READ screen NOTIFY screenChanged)
-    Q_PROPERTY(bool showConfirmation READ showConfirmation WRITE setShowConfirmation NOTIFY
-                   showConfirmationChanged)
+    Q_PROPERTY(bool showConfirmation READ showConfirmation NOTIFY showConfirmationChanged)
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
     Q_PROPERTY(int selectedCategory READ selectedCategory WRITE setSelectedCategory NOTIFY
                    selectedCategoryChanged)
@@ -39,7 +38,6 @@ class ContentView : public drossbin::ScreenState {
 
     [[nodiscard]] Screen screen() const;
     [[nodiscard]] bool showConfirmation() const { return m_scanResult.showConfirmation; }
-    void setShowConfirmation(bool isShown);
     [[nodiscard]] QString searchText() const;
     void setSearchText(const QString& text);
     /// The category's place in the declared order; -1 for none.

@@ -74,7 +74,7 @@ TEST_F(Refresh, announces_what_the_screens_write_and_are_chosen_by) {
     const QSignalSpy screen(&view, &ContentView::screenChanged);
     view.setSearchText("é");
     view.setSelectedCategory(2);
-    view.setShowConfirmation(true);
+    view.requestDeletion();
     view.scanResult().hasScanned = true;
     EXPECT_EQ(view.searchText(), "é");
     EXPECT_TRUE(view.showConfirmation());
