@@ -55,6 +55,12 @@ void ContentView::setSelectedCategory(int place) {
     queueRefresh();
 }
 
+void ContentView::goBack() {
+    if (screen() == Category) {
+        setSelectedCategory(-1);
+    }
+}
+
 // The controls that start a run are gone only when the screens have been redrawn, and a sheet takes
 // its time to leave: a second press that comes before is not a second run.
 

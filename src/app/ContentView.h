@@ -51,6 +51,9 @@ class ContentView : public drossbin::ScreenState {
     LogLinesModel* deletionLog() { return &m_deletionLog; }
     ScanResult& scanResult() { return m_scanResult; }
 
+    /// From a category's list to the overview; what else is shown stays.
+    Q_INVOKABLE void goBack();
+
     Q_INVOKABLE void startScan(bool demo);
     Q_INVOKABLE void requestDeletion();
     Q_INVOKABLE void cancelDeletion();

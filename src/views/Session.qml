@@ -9,7 +9,7 @@ ResultsShell {
 
     canScan: !session.content.isScanning
     onScan: session.content.startScan(session.content.optionHeld())
-    onEscaped: session.content.selectedCategory = -1
+    onEscaped: session.content.goBack()
 
     sidebar: SidebarView {
         anchors.fill: parent
@@ -68,7 +68,7 @@ ResultsShell {
         onToggled: row => session.content.items.toggle(row)
         onClearPressed: session.content.clearSelection()
         onDeletePressed: session.content.requestDeletion()
-        onDismissed: session.content.selectedCategory = -1
+        onDismissed: session.content.goBack()
     }
 
     SessionSheets {

@@ -44,6 +44,25 @@ TEST_F(Screen, is_the_overview_without_a_category_and_the_list_with_one) {
     EXPECT_EQ(view.screen(), ContentView::Overview);
 }
 
+TEST_F(Screen, goes_back_from_the_list_to_the_overview) {
+    view.scanResult().hasScanned = true;
+    view.scanResult().items = {item("a", 1)};
+    view.setSelectedCategory(2);
+    view.goBack();
+    EXPECT_EQ(view.screen(), ContentView::Overview);
+}
+
+TEST_F(Screen, keeps_the_category_chosen_while_its_list_is_not_shown) {
+    view.scanResult().hasScanned = true;
+    view.setSelectedCategory(2);
+    view.goBack();
+    EXPECT_EQ(view.selectedCategory(), 2);
+    view.scanResult().items = {item("a", 1)};
+    view.scanResult().isScanning = true;
+    view.goBack();
+    EXPECT_EQ(view.selectedCategory(), 2);
+}
+
 TEST_F(Screen, is_never_the_landing_again_after_a_scan) {
     test::scan(view);
     EXPECT_EQ(view.screen(), ContentView::Empty);
