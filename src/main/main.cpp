@@ -1,5 +1,5 @@
+#include "app/EventLoop.h"
 #include "platform/Locale.h"
-#include "platform/MainThread.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -8,7 +8,6 @@
 #include <QThreadPool>
 
 #include <cstdlib>
-#include <utility>
 
 namespace {
 
@@ -36,12 +35,6 @@ void chooseFont() {
 #endif
 }
 
-void connectMainThread() {
-    MainThread::connect([](MainThread::Job job) {
-        QMetaObject::invokeMethod(qApp, std::move(job), Qt::QueuedConnection);
-    });
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -49,7 +42,7 @@ int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
     followTheUsersLocale();
     chooseFont();
-    connectMainThread();
+    connectMainThreadToEventLoop();
     QQmlApplicationEngine engine;
     engine.load(QUrl(QStringLiteral("qrc:/Drossbin/Views/Main.qml")));
     if (engine.rootObjects().isEmpty()) {
