@@ -1,12 +1,24 @@
+#include "HeldSession.h"
+#include "app/EventLoop.h"
+#include "platform/Locale.h"
+
 #include <QQmlEngine>
 #include <QtQuickTest>
 
-/// Lets the tests import the views from the program's own resources.
+/// Lets the tests import the views from the program's own resources, and gives them sessions.
 class Setup : public QObject {
     Q_OBJECT
 
   public slots:
-    void qmlEngineAvailable(QQmlEngine* engine) { engine->addImportPath(QStringLiteral("qrc:/")); }
+    void applicationAvailable() {
+        drossbin::Locale::setCurrent({"en_US"});
+        drossbin::connectMainThreadToEventLoop();
+    }
+
+    void qmlEngineAvailable(QQmlEngine* engine) {
+        engine->addImportPath(QStringLiteral("qrc:/"));
+        qmlRegisterType<drossbin::test::HeldSession>("Drossbin.Test", 1, 0, "HeldSession");
+    }
 };
 
 QUICK_TEST_MAIN_WITH_SETUP(views, Setup)
