@@ -29,6 +29,7 @@ FocusScope {
 
     Shortcut {
         sequence: "Ctrl+F"
+        enabled: pane.visible
         onActivated: filter.find()
     }
 

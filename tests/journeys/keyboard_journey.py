@@ -80,10 +80,21 @@ class Keyboard(Journey):
         self.walk_to("push button", "Confirm & Delete")
         self.walk_to("push button", "Cancel", step="Shift_L+Tab")
 
-    def test_control_f_goes_to_the_filter_from_anywhere(self):
+    def test_control_f_goes_to_the_filter_from_anywhere_in_the_list(self):
         self.scan_by_keys()
         self.key("Control_L", "f")
         wait_for("the filter to have the focus", lambda: self.is_focused("Filter items..."))
+
+    def test_control_f_does_nothing_where_no_filter_is_to_be_seen(self):
+        self.scan_by_keys()
+        self.key("Escape")
+        self.walk_to("push button", "Smart Select")
+        self.key("Control_L", "f")
+        self.program.desktop.type("chrome")
+        self.walk_to("list item", "Program Caches")
+        self.key("space")
+        self.program.find("list item", "com.example.Editor")
+        self.assertIsNone(self.program.now("push button", "Clear filter"))
 
     def test_arrows_walk_the_sidebar(self):
         self.scan_by_keys()
