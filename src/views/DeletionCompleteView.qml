@@ -58,6 +58,7 @@ FocusScope {
         SheetList {
             Layout.fillWidth: true
             highest: 120
+            name: "Deletion log"
             model: view.log
 
             delegate: LogLine {

@@ -73,6 +73,7 @@ FocusScope {
         SheetList {
             Layout.fillWidth: true
             highest: 200
+            name: "Selected items"
             model: view.selectedItems
 
             delegate: SelectedItemRow {

@@ -7,6 +7,8 @@ Rectangle {
     property alias model: rows.model
     property alias delegate: rows.delegate
     required property real highest
+    /// What a screen reader calls the list.
+    required property string name
 
     implicitHeight: Math.min(panel.highest, rows.contentHeight + 2 * Theme.space4)
     radius: Theme.space8
@@ -25,6 +27,7 @@ Rectangle {
         anchors.bottomMargin: Theme.space4
         activeFocusOnTab: rows.contentHeight > rows.height
         keyNavigationEnabled: false
+        Accessible.name: panel.name
         Keys.onUpPressed: rows.scrollBy(-Theme.space32)
         Keys.onDownPressed: rows.scrollBy(Theme.space32)
     }

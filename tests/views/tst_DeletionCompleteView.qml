@@ -69,7 +69,7 @@ TestCase {
     }
 
     function list(view: DeletionCompleteView): ListView {
-        return find.seen(view).find(item => item.Accessible.role === Accessible.List);
+        return find.control(view, Accessible.List, "Deletion log");
     }
 
     function test_shows_what_was_freed_and_every_line_of_the_log() {
@@ -113,6 +113,11 @@ TestCase {
             compare(label.font.pixelSize, Theme.caption);
             compare(label.textFormat, Text.PlainText);
         }
+    }
+
+    function test_lines_are_list_items_named_after_what_they_say() {
+        const rows = find.seen(list(make())).filter(item => item.Accessible.role === Accessible.ListItem);
+        compare(rows.map(row => row.Accessible.name).join("|"), "✅ Deleted: npm cache (1.1 GB)|❌ Failed: <b>x</b>: Permission denied|❌ Failed: <b>x</b>: Permission denied");
     }
 
     function test_list_is_at_most_120_high_and_builds_only_what_is_in_view() {

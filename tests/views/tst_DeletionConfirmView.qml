@@ -83,7 +83,7 @@ TestCase {
     }
 
     function list(view: DeletionConfirmView): ListView {
-        return find.seen(view).find(item => item.Accessible.role === Accessible.List);
+        return find.control(view, Accessible.List, "Selected items");
     }
 
     function test_shows_what_is_about_to_be_deleted() {
@@ -117,6 +117,11 @@ TestCase {
             const row = find.control(view, Accessible.ListItem, name);
             verify(Qt.colorEqual(find.symbol(row, symbol).color, color));
         }
+    }
+
+    function test_rows_are_list_items_named_after_their_items() {
+        const rows = find.seen(list(make())).filter(item => item.Accessible.role === Accessible.ListItem);
+        compare(rows.map(row => row.Accessible.name).join("|"), "com.google.Chrome|<h1>x</h1>|Keychains");
     }
 
     function test_sizes_end_in_one_column() {
