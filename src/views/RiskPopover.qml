@@ -24,6 +24,9 @@ T.Popup {
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
 
+    // What Qt puts around the content is a dialog too, but one without a name.
+    Component.onCompleted: popover.contentItem.parent.Accessible.ignored = true
+
     background: Rectangle {
         radius: 10
         color: Theme.sheet

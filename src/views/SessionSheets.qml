@@ -38,6 +38,7 @@ Item {
     Sheet {
         shown: sheets.content.showDeletionComplete
         name: "Cleanup Complete!"
+        description: `You freed ${sheets.content.freedSpaceText}`
         onEscaped: sheets.content.dismissCompletion()
 
         DeletionCompleteView {

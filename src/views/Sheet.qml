@@ -10,6 +10,8 @@ T.Popup {
 
     required property bool shown
     required property string name
+    /// What a screen reader says after the name, if anything.
+    property string description: ""
     readonly property int restingY: Math.round((sheet.parent.height - sheet.height) / 2)
     /// How far above its place it still is.
     property real drop: 0
@@ -27,6 +29,8 @@ T.Popup {
     focus: true
     closePolicy: T.Popup.NoAutoClose
     visible: sheet.shown
+    // What Qt puts around the content is a dialog too, but one without a name.
+    Component.onCompleted: sheet.contentItem.parent.Accessible.ignored = true
     onAboutToShow: {
         sheet.focusedBefore = sheet.parent.Window.activeFocusItem as T.Control;
         sheet.ringedBefore = sheet.focusedBefore?.visualFocus ?? false;
@@ -44,6 +48,7 @@ T.Popup {
         LayoutMirroring.childrenInherit: true
         Accessible.role: Accessible.Dialog
         Accessible.name: sheet.name
+        Accessible.description: sheet.description
         Keys.onEscapePressed: sheet.escaped()
     }
 

@@ -29,4 +29,6 @@ class Announcements:
 
     def _hear(self, event):
         source = event.source
+        if event.type.startswith("object:state-changed") and not event.detail1:
+            return  # it is told when a state is left too
         self._heard.append((event.type, source.get_role_name(), source.get_name()))

@@ -8,6 +8,8 @@ from driver import wait_for
 from journey import Journey, main
 
 VALUE = "object:property-change:accessible-value"
+SHOWING = "object:state-changed:showing"
+FOCUSED = "object:state-changed:focused"
 
 
 class ScreenReader(Journey):
@@ -57,6 +59,30 @@ class ScreenReader(Journey):
         self.assertFalse(program.find("push button", "Scan").has("sensitive"))
         self.wait_for_scan(program)
         self.assertTrue(program.find("push button", "Scan").has("sensitive"))
+
+    def test_each_step_of_a_deletion_is_announced(self):
+        program = self.start()
+        self.scan(program)
+        program.press("check box", "com.example.Editor")
+        announcements = self.listen(VALUE, SHOWING, FOCUSED)
+        program.press("push button", "Delete Selected")
+        announcements.wait_for(SHOWING, "dialog", "Delete 1 items?")
+        announcements.wait_for(FOCUSED, "push button", "Cancel")
+        items = program.find("list", "Selected items")
+        self.assertEqual([(c.role, c.name) for c in items.children()], [("list item", "com.example.Editor")])
+        program.press("push button", "Confirm & Delete")
+        announcements.wait_for(SHOWING, "dialog", "Deleting files...")
+        announcements.wait_for(VALUE, "progress bar", "Deleting files...")
+        announcements.wait_for(SHOWING, "dialog", "Cleanup Complete!")
+        announcements.wait_for(FOCUSED, "push button", "Done")
+        self.check_report(program)
+
+    def check_report(self, program):
+        self.assertEqual(program.find("dialog", "Cleanup Complete!").description, "You freed 3.8 MB")
+        wait_for(lambda: f"only the report to be open in\n{program.describe()}",
+                 lambda: program.names("dialog") == ["Cleanup Complete!"])
+        (line,) = program.find("list", "Deletion log").children()
+        self.assertEqual((line.role, line.name), ("list item", "✅ Deleted: com.example.Editor (3.8 MB)"))
 
 
 if __name__ == "__main__":

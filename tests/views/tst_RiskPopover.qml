@@ -139,5 +139,6 @@ TestCase {
         compare(content.Accessible.role, Accessible.Dialog);
         compare(content.Accessible.name, "Review First");
         compare(content.Accessible.description, "May hold <b>sign-ins</b>.");
+        compare(content.parent.Accessible.ignored, true);
     }
 }

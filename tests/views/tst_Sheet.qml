@@ -41,6 +41,7 @@ Item {
 
                     shown: false
                     name: "Delete 3 items?"
+                    description: "3 GB"
                     onEscaped: ++sheet.escapes
 
                     Column {
@@ -181,6 +182,8 @@ Item {
             function test_is_a_dialog_with_its_name() {
                 compare(sheet.contentItem.Accessible.role, Accessible.Dialog);
                 compare(sheet.contentItem.Accessible.name, "Delete 3 items?");
+                compare(sheet.contentItem.Accessible.description, "3 GB");
+                compare(sheet.contentItem.parent.Accessible.ignored, true);
             }
         }
     }
