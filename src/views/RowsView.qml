@@ -48,8 +48,10 @@ ListView {
     }
 
     Tip {
+        id: tip
+
         text: pointer.hovered && !rows.moving ? rows.cutTextAt(pointer.place.x, pointer.place.y) : ""
-        x: pointer.place.x
+        x: Math.min(pointer.place.x, rows.width - tip.implicitWidth - Theme.space8)
         y: pointer.place.y + Theme.space20
         visible: text !== ""
     }

@@ -1,13 +1,19 @@
 import QtQuick
 import QtQuick.Templates as T
 
-/// A tooltip over its parent; without a mnemonic, markup or width of its own.
+/// A tooltip over its parent; without a mnemonic or markup of its own. It is never larger than the
+/// window: a text that would be loses its middle.
 T.ToolTip {
     id: tip
 
+    readonly property real widest: 640
+    readonly property real room: tip.parent.Window.height - 2 * Theme.space8 - tip.topPadding - tip.bottomPadding
+    /// What all lines hold together; at the end of each, a character may find no place.
+    readonly property real capacity: Math.floor(tip.room / metrics.lineSpacing) * (tip.widest - tip.leftPadding - tip.rightPadding - metrics.maximumCharacterWidth)
+
     x: (tip.parent.width - tip.implicitWidth) / 2
     y: tip.parent.height + Theme.space4
-    implicitWidth: Math.min(implicitContentWidth + tip.leftPadding + tip.rightPadding, 480)
+    implicitWidth: Math.min(implicitContentWidth + tip.leftPadding + tip.rightPadding, tip.widest)
     implicitHeight: implicitContentHeight + tip.topPadding + tip.bottomPadding
     margins: Theme.space8
     horizontalPadding: Theme.space8
@@ -15,11 +21,17 @@ T.ToolTip {
     delay: 700
     closePolicy: T.Popup.NoAutoClose
 
+    FontMetrics {
+        id: metrics
+
+        font.pixelSize: Theme.caption2
+    }
+
     contentItem: PlainLabel {
-        text: tip.text
-        font.pixelSize: Theme.caption
+        text: metrics.elidedText(tip.text, Qt.ElideMiddle, tip.capacity)
+        font: metrics.font
         color: Theme.bright
-        wrapMode: Text.Wrap
+        wrapMode: Text.WrapAnywhere
     }
 
     background: Rectangle {
