@@ -25,7 +25,7 @@ class ScreenReader(Journey):
     def start_slow_on(self, folder):
         if not slow.is_possible():
             self.skipTest("the program cannot be traced here, and so not be held in its work")
-        return self.start(wrapper=slow.on(os.path.join(self.home.path, folder), 1_000), **slow.LEAKS_UNSEEN)
+        return self.start(wrapper=slow.on(os.path.join(self.home.path, folder), 1_000))
 
     def test_progress_has_a_value_that_is_announced(self):
         announcements = self.listen(VALUE)
