@@ -1,6 +1,7 @@
 """What the program announces on the accessibility bus of its own accord."""
 
-from driver import Atspi, GLib, wait_for
+from control import Atspi, GLib
+from driver import wait_for
 
 
 class Announcements:
