@@ -10,11 +10,10 @@ import subprocess
 FIGURES = ("median", "minimum", "maximum")
 
 
-def case(name, unit, values, goals, reference=None):
+def case(name, unit, values, goals, has_ratios=True):
     """`values` are lists by program; `goals` are by program too, and say which "ratio", "median"
-    or "maximum" must not be exceeded. Ratios are those of medians to `reference`'s, one of the
-    programs; by default the first."""
-    base = statistics.median(values[reference or next(iter(values))])
+    or "maximum" must not be exceeded. Ratios are those of medians to the first program's."""
+    base = statistics.median(next(iter(values.values()))) if has_ratios else 0
     return {
         "name": name,
         "unit": unit,

@@ -22,6 +22,8 @@ package_list=(
   "test|appstream desktop-file-utils||check what software centres read"
   "bench|libbenchmark-dev|google-benchmark|time single calls"
   "bench|ncdu gdu|ncdu gdu|compare with what people would use instead"
+  "bench|filelight qdirstat baobab bleachbit stacer||compare how programs with a window start"
+  "bench|libxcb1-dev libxcb-damage0-dev pkg-config libgl1-mesa-dri||see when a window is painted"
   "bench|python3|python|time programs and print the table"
   "check|clang-format clang-tidy clang|clang-format llvm|check the style of the sources"
 )

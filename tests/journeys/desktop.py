@@ -84,6 +84,10 @@ class Desktop:
         window.configure(width=width, height=height)
         self._x.sync()
 
+    def hide(self, window):
+        window.unmap()
+        self._x.sync()
+
     def ask_to_close(self, window):
         """What a window manager sends when its close button is pressed."""
         atom = self._x.intern_atom

@@ -18,11 +18,13 @@ sys.path.append(str(HERE.parent / "tests" / "journeys"))
 import world as worlds  # noqa: E402  (the path has to be known first)
 
 import deleting  # noqa: E402
+import idling  # noqa: E402
 import measuring  # noqa: E402
+import starting  # noqa: E402
 import table  # noqa: E402
 from bench import Bench  # noqa: E402
 
-CHAPTERS = (measuring, deleting)
+CHAPTERS = (measuring, deleting, starting, idling)
 
 
 def arguments():
@@ -54,7 +56,7 @@ def main():
     options = arguments()
     world = worlds.inside()
     if world is None:
-        sys.exit(worlds.run_inside(str(HERE / "compare"), [str(options.build.resolve()), *sys.argv[2:]]))
+        sys.exit(worlds.run_inside(str(HERE / "compare.py"), [str(options.build.resolve()), *sys.argv[2:]]))
     os.environ.clear()
     os.environ.update(world.environment())
     run(Bench(options, world))

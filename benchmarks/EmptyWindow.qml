@@ -1,0 +1,7 @@
+import QtQuick.Controls
+
+ApplicationWindow {
+    width: 900
+    height: 650
+    visible: true
+}
