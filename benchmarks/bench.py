@@ -34,7 +34,8 @@ class Bench:
     def tree(self, kind, files, path):
         """The path of a tree, which is made where it is not there yet."""
         if not path.exists():
-            subprocess.run([self.tools / "make_tree", kind, str(self.files(files)), path], check=True)
+            command = [self.tools / "make_tree", kind, str(self.files(files)), path]
+            subprocess.run(command, check=True)
         return path
 
     def remove(self, path):

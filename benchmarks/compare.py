@@ -19,12 +19,13 @@ import world as worlds  # noqa: E402  (the path has to be known first)
 
 import deleting  # noqa: E402
 import idling  # noqa: E402
+import interacting  # noqa: E402
 import measuring  # noqa: E402
 import starting  # noqa: E402
 import table  # noqa: E402
 from bench import Bench  # noqa: E402
 
-CHAPTERS = (measuring, deleting, starting, idling)
+CHAPTERS = (measuring, deleting, starting, idling, interacting)
 
 
 def arguments():
@@ -56,9 +57,11 @@ def main():
     options = arguments()
     world = worlds.inside()
     if world is None:
-        sys.exit(worlds.run_inside(str(HERE / "compare.py"), [str(options.build.resolve()), *sys.argv[2:]]))
+        script = str(pathlib.Path(__file__).resolve())
+        sys.exit(worlds.run_inside(script, sys.argv[1:]))
     os.environ.clear()
     os.environ.update(world.environment())
+    options.build = options.build.resolve()
     run(Bench(options, world))
 
 

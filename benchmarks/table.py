@@ -41,10 +41,11 @@ def markdown(cases):
     lines = [head]
     for item in cases:
         for index, (program, figures) in enumerate(item["programs"].items()):
-            lines.append([item["name"] if index == 0 else "", *_row(program, figures, item["unit"])])
+            name = item["name"] if index == 0 else ""
+            lines.append([name, *_row(program, figures, item["unit"])])
     widths = [max(len(line[column]) for line in lines) for column in range(len(head))]
-    rule = ["-" * width for width in widths[:2]] + ["-" * (width - 1) + ":" for width in widths[2:6]]
-    lines.insert(1, rule + ["-" * width for width in widths[6:]])
+    lines.insert(1, ["-" * (width - 1) + (":" if _is_figure(column) else "-")
+                     for column, width in enumerate(widths)])
     return "\n".join(_line(line, widths) for line in lines)
 
 
@@ -61,9 +62,13 @@ def _number(value):
 
 
 def _line(cells, widths):
-    padded = [cell.rjust(width) if 2 <= column <= 5 else cell.ljust(width)
+    padded = [cell.rjust(width) if _is_figure(column) else cell.ljust(width)
               for column, (cell, width) in enumerate(zip(cells, widths))]
     return f"| {' | '.join(padded)} |"
+
+
+def _is_figure(column):
+    return 2 <= column <= 5
 
 
 def summary(cases, quick):
