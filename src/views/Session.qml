@@ -1,5 +1,6 @@
 import QtQuick
 import Drossbin.App
+import Drossbin.Views
 
 /// Everything after the landing screen: the two columns, and in the detail what the state asks for.
 ResultsShell {
@@ -73,5 +74,9 @@ ResultsShell {
 
     SessionSheets {
         content: session.content
+    }
+
+    SinglePress {
+        window: session.Window.window
     }
 }

@@ -1,3 +1,4 @@
+#include "HeldKey.h"
 #include "HeldSession.h"
 #include "app/EventLoop.h"
 #include "platform/Locale.h"
@@ -5,7 +6,7 @@
 #include <QQmlEngine>
 #include <QtQuickTest>
 
-/// Lets the tests import the views from the program's own resources, and gives them sessions.
+/// Lets the tests import the views from the program's own resources, and gives them keys and sessions.
 class Setup : public QObject {
     Q_OBJECT
 
@@ -17,6 +18,7 @@ class Setup : public QObject {
 
     void qmlEngineAvailable(QQmlEngine* engine) {
         engine->addImportPath(QStringLiteral("qrc:/"));
+        qmlRegisterType<drossbin::test::HeldKey>("Drossbin.Test", 1, 0, "HeldKey");
         qmlRegisterType<drossbin::test::HeldSession>("Drossbin.Test", 1, 0, "HeldSession");
     }
 };

@@ -28,8 +28,12 @@ Item {
                 id: find
             }
 
-            Component {
+            HeldKey {
                 id: held
+            }
+
+            Component {
+                id: content
 
                 HeldSession {}
             }
@@ -55,18 +59,86 @@ Item {
 
             /// A session after a scan, at its overview.
             function make(): Session {
-                const content = createTemporaryObject(held, test);
-                test.made = session.createObject(test, { content: content });
+                const state = createTemporaryObject(content, test);
+                test.made = session.createObject(test, { content: state });
                 test.made.forceActiveFocus();
-                content.startScan(true);
-                tryCompare(content, "screen", ContentView.Category);
-                content.selectedCategory = -1;
-                tryCompare(content, "screen", ContentView.Overview);
+                state.startScan(true);
+                tryCompare(state, "screen", ContentView.Category);
+                state.selectedCategory = -1;
+                tryCompare(state, "screen", ContentView.Overview);
                 return test.made;
             }
 
             function filter(made: Session): Item {
                 return find.control(made, Accessible.EditableText, "Filter items...");
+            }
+
+            function press(made: Item, name: string, key: int) {
+                tryVerify(() => find.button(made, name) !== null);
+                find.button(made, name).forceActiveFocus(Qt.TabFocusReason);
+                held.hold(key);
+            }
+
+            function test_a_key_held_down_does_not_press_on_in_the_next_sheet_data() {
+                return [{ tag: "Return", key: Qt.Key_Return }, { tag: "Enter", key: Qt.Key_Enter }, { tag: "Space", key: Qt.Key_Space }];
+            }
+
+            function test_a_key_held_down_does_not_press_on_in_the_next_sheet(data) {
+                const made = make();
+                made.content.smartSelect();
+                press(made, "Delete 5 MB", data.key);
+                const sheets = host.contentItem.parent;
+                compare(made.content.showConfirmation, true);
+                press(sheets, "Confirm & Delete", data.key);
+                tryCompare(made.content, "isDeleting", true);
+                made.content.finish();
+                tryVerify(() => find.button(sheets, "Done")?.activeFocus ?? false);
+                held.repeat(data.key);
+                compare(made.content.screen, ContentView.Overview);
+                compare(made.content.showDeletionComplete, true);
+            }
+
+            function test_escape_held_down_leaves_one_thing() {
+                const made = make();
+                made.content.selectedCategory = 1;
+                made.content.searchText = "x";
+                tryVerify(() => filter(made) !== null);
+                filter(made).forceActiveFocus(Qt.TabFocusReason);
+                keyPress(Qt.Key_Escape);
+                tryCompare(made.content, "searchText", "");
+                held.repeat(Qt.Key_Escape);
+                compare(made.content.selectedCategory, 1);
+            }
+
+            function test_a_key_held_down_toggles_once() {
+                const made = make();
+                made.content.selectedCategory = 0;
+                tryVerify(() => find.control(made, Accessible.CheckBox, "Program Caches") !== null);
+                const box = find.control(made, Accessible.CheckBox, "Program Caches");
+                box.forceActiveFocus(Qt.TabFocusReason);
+                held.hold(Qt.Key_Space);
+                tryCompare(box, "isSelected", true);
+                held.hold(Qt.Key_Return);
+                tryCompare(box, "isSelected", false);
+            }
+
+            function test_an_arrow_held_down_walks_on() {
+                const made = make();
+                find.control(made, Accessible.List, "Categories").forceActiveFocus(Qt.TabFocusReason);
+                keyPress(Qt.Key_Down);
+                tryCompare(made.content, "selectedCategory", 0);
+                held.repeat(Qt.Key_Down);
+                tryCompare(made.content, "selectedCategory", 1);
+                keyRelease(Qt.Key_Down);
+            }
+
+            function test_a_space_held_down_types_on() {
+                const made = make();
+                made.content.selectedCategory = 1;
+                tryVerify(() => filter(made) !== null);
+                filter(made).forceActiveFocus(Qt.TabFocusReason);
+                held.hold(Qt.Key_Space);
+                tryCompare(made.content, "searchText", "    ");
             }
 
             function test_the_toolbar_button_is_disabled_for_the_whole_of_a_scan() {
