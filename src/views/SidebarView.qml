@@ -16,11 +16,14 @@ FocusScope {
     required property real foundShare
     required property real selectedShare
 
+    /// What the last row was picked with: only the keyboard has a ring.
+    property int reason: Qt.OtherFocusReason
+
     signal picked(int category)
 
-    function walkTo(row: int): void {
+    function pick(row: int, reason: int): void {
+        sidebar.reason = reason;
         sidebar.picked(Math.max(0, Math.min(row, list.count - 1)));
-        (list.currentItem as CategoryRow).focusReason = Qt.TabFocusReason;
     }
 
     implicitWidth: 240
@@ -46,6 +49,8 @@ FocusScope {
         ListView {
             id: list
 
+            readonly property CategoryRow currentRow: list.currentItem as CategoryRow
+
             Layout.fillWidth: true
             implicitHeight: contentHeight
             interactive: false
@@ -56,8 +61,10 @@ FocusScope {
             keyNavigationEnabled: false
             Accessible.role: Accessible.List
             Accessible.name: "Categories"
-            Keys.onUpPressed: sidebar.walkTo(sidebar.selectedCategory - 1)
-            Keys.onDownPressed: sidebar.walkTo(sidebar.selectedCategory + 1)
+            Keys.onUpPressed: sidebar.pick(sidebar.selectedCategory - 1, Qt.TabFocusReason)
+            Keys.onDownPressed: sidebar.pick(sidebar.selectedCategory + 1, Qt.TabFocusReason)
+            onCurrentRowChanged: if (list.currentRow?.activeFocus)
+                list.currentRow.focusReason = sidebar.reason
 
             delegate: CategoryRow {
                 id: row
@@ -69,7 +76,7 @@ FocusScope {
                 symbol: row.model.icon
 
                 width: ListView.view.width
-                onPicked: sidebar.picked(row.index)
+                onPicked: sidebar.pick(row.index, Qt.MouseFocusReason)
                 onUnpicked: sidebar.picked(-1)
             }
         }
