@@ -27,7 +27,6 @@ T.ItemDelegate {
     Accessible.selectable: true
     Accessible.selected: row.isCurrent
     Accessible.onPressAction: row.picked()
-    onClicked: row.picked()
 
     background: Rectangle {
         radius: Theme.space8
