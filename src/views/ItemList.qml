@@ -19,8 +19,10 @@ RowsView {
     }
 
     function enter(): void {
-        list.forceActiveFocus(Qt.TabFocusReason);
-        list.walkTo(list.currentIndex);
+        if (list.count > 0) {
+            list.forceActiveFocus(Qt.TabFocusReason);
+            list.walkTo(list.currentIndex);
+        }
     }
 
     function walkTo(row: int): void {
@@ -40,6 +42,7 @@ RowsView {
     highlightMoveDuration: 0
     activeFocusOnTab: list.count > 0 && !(list.currentRow?.enabled ?? false)
     keyNavigationEnabled: false
+    onCountChanged: list.currentIndex = Math.min(Math.max(0, list.currentIndex), list.count - 1)
     Accessible.name: "Items"
     Keys.onUpPressed: list.walkTo(list.currentIndex - 1)
     Keys.onDownPressed: list.walkTo(list.currentIndex + 1)

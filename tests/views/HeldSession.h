@@ -10,8 +10,8 @@
 
 namespace drossbin::test {
 
-/// A session that finds one item in each category, touches no disk, and whose runs last until they
-/// are told to finish.
+/// A session that finds three items in each category, touches no disk, and whose runs last until
+/// they are told to finish.
 class HeldSession : public ContentView {
     Q_OBJECT
 
@@ -58,12 +58,14 @@ class HeldSession : public ContentView {
     static std::vector<DiskItem> found() {
         std::vector<DiskItem> items;
         for (const DiskCategory category : allDiskCategories) {
-            DiskItem item;
-            item.name = rawValue(category);
-            item.path = "/home/ada/" + item.name;
-            item.size = 1'000'000;
-            item.category = category;
-            items.push_back(item);
+            for (const char* number : {"1", "2", "3"}) {
+                DiskItem item;
+                item.name = std::string(rawValue(category)) + " " + number;
+                item.path = "/home/ada/" + item.name;
+                item.size = 1'000'000;
+                item.category = category;
+                items.push_back(item);
+            }
         }
         return items;
     }

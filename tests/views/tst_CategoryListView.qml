@@ -309,6 +309,22 @@ TestCase {
         compare(list().showsFocus, true);
     }
 
+    function test_down_in_the_filter_stays_there_when_it_lets_nothing_through() {
+        fill(0);
+        mouseClick(filter());
+        keyClick(Qt.Key_Down);
+        compare(filter().activeFocus, true);
+    }
+
+    function test_rows_that_come_back_have_a_current_one_that_tab_reaches() {
+        fill(0);
+        fill(5);
+        filter().forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_Tab);
+        compare(row(0).activeFocus, true);
+        compare(list().showsFocus, true);
+    }
+
     function test_escape_leaves_the_category_data() {
         return [{ tag: "from the rows", fromFilter: false }, { tag: "from the empty filter", fromFilter: true }];
     }

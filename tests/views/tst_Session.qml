@@ -86,7 +86,7 @@ Item {
             function test_a_key_held_down_does_not_press_on_in_the_next_sheet(data) {
                 const made = make();
                 made.content.smartSelect();
-                press(made, "Delete 5 MB", data.key);
+                press(made, "Delete 15 MB", data.key);
                 const sheets = host.contentItem.parent;
                 compare(made.content.showConfirmation, true);
                 press(sheets, "Confirm & Delete", data.key);
@@ -113,8 +113,8 @@ Item {
             function test_a_key_held_down_toggles_once() {
                 const made = make();
                 made.content.selectedCategory = 0;
-                tryVerify(() => find.control(made, Accessible.CheckBox, "Program Caches") !== null);
-                const box = find.control(made, Accessible.CheckBox, "Program Caches");
+                tryVerify(() => find.control(made, Accessible.CheckBox, "Program Caches 1") !== null);
+                const box = find.control(made, Accessible.CheckBox, "Program Caches 1");
                 box.forceActiveFocus(Qt.TabFocusReason);
                 held.hold(Qt.Key_Space);
                 tryCompare(box, "isSelected", true);
@@ -151,6 +151,35 @@ Item {
                 made.content.finish();
                 tryCompare(button, "enabled", true);
                 compare(made.content.screen, ContentView.Category);
+            }
+
+            function row(made: Session, name: string): ItemRowView {
+                return find.control(made, Accessible.ListItem, name) as ItemRowView;
+            }
+
+            function test_a_filter_leaves_a_current_row_that_tab_reaches_data() {
+                return [
+                    { tag: "fewer rows", filters: [["2", 1]], current: "Log Files 2" },
+                    { tag: "rows again", filters: [["nothing", 0], ["Files", 3]], current: "Log Files 1" }
+                ];
+            }
+
+            function test_a_filter_leaves_a_current_row_that_tab_reaches(data) {
+                const made = make();
+                made.content.selectedCategory = 3;
+                tryVerify(() => row(made, "Log Files 3") !== null);
+                row(made, "Log Files 1").forceActiveFocus(Qt.TabFocusReason);
+                keyClick(Qt.Key_End);
+                const list = find.control(made, Accessible.List, "Items");
+                for (const [text, count] of data.filters) {
+                    made.content.searchText = text;
+                    tryCompare(list, "count", count);
+                }
+                waitForRendering(list, 100);
+                find.button(made, "Clear filter").forceActiveFocus(Qt.TabFocusReason);
+                keyClick(Qt.Key_Tab);
+                compare(row(made, data.current).activeFocus, true);
+                compare(row(made, data.current).visualFocus, true);
             }
 
             function test_find_goes_to_the_filter_where_there_is_one() {

@@ -83,18 +83,18 @@ Item {
 
             function test_no_sheet_is_there_before_it_is_asked_for() {
                 make();
-                for (const name of ["Delete 5 items?", "Deleting files...", "Cleanup Complete!"])
+                for (const name of ["Delete 15 items?", "Deleting files...", "Cleanup Complete!"])
                     compare(sheet(name), null);
             }
 
             function test_escape_is_cancel_on_the_confirmation() {
                 const content = make();
                 content.requestDeletion();
-                open("Delete 5 items?");
+                open("Delete 15 items?");
                 keyClick(Qt.Key_Escape);
                 tryCompare(content, "showConfirmation", false);
                 compare(content.isDeleting, false);
-                closed("Delete 5 items?");
+                closed("Delete 15 items?");
             }
 
             function test_escape_does_nothing_on_the_progress() {
