@@ -10,6 +10,15 @@ RowsView {
     /// A protected row cannot have the focus; the list then has it, and shows where it is.
     readonly property bool showsFocus: list.currentRow !== null && (list.currentRow.visualFocus || (list.currentRow.isProtected && list.activeFocus))
     readonly property int page: Math.max(1, Math.floor(list.height / 48))
+    /// How many rows a key walks.
+    readonly property var strides: ({
+            [Qt.Key_Up]: -1,
+            [Qt.Key_Down]: 1,
+            [Qt.Key_PageUp]: -list.page,
+            [Qt.Key_PageDown]: list.page,
+            [Qt.Key_Home]: -list.count,
+            [Qt.Key_End]: list.count
+        })
 
     signal toggled(int row)
 
@@ -44,21 +53,13 @@ RowsView {
     keyNavigationEnabled: false
     onCountChanged: list.currentIndex = Math.min(Math.max(0, list.currentIndex), list.count - 1)
     Accessible.name: "Items"
-    Keys.onUpPressed: list.walkTo(list.currentIndex - 1)
-    Keys.onDownPressed: list.walkTo(list.currentIndex + 1)
     Keys.onSpacePressed: list.pressCurrent()
     Keys.onReturnPressed: list.pressCurrent()
     Keys.onEnterPressed: list.pressCurrent()
     Keys.onPressed: event => {
-        const goals = {
-            [Qt.Key_PageUp]: list.currentIndex - list.page,
-            [Qt.Key_PageDown]: list.currentIndex + list.page,
-            [Qt.Key_Home]: 0,
-            [Qt.Key_End]: list.count - 1
-        };
-        event.accepted = event.key in goals;
+        event.accepted = event.key in list.strides;
         if (event.accepted)
-            list.walkTo(goals[event.key]);
+            list.walkTo(list.currentIndex + list.strides[event.key]);
     }
 
     delegate: ItemRowView {

@@ -7,25 +7,16 @@ ListView {
     id: rows
 
     /// The label at a place of an item, or none.
-    function labelAt(item: Item, x: real, y: real): PlainLabel {
-        if (item instanceof PlainLabel)
-            return item as PlainLabel;
-        for (let index = item.children.length - 1; index >= 0; --index) {
-            const child = item.children[index];
-            const inside = item.mapToItem(child, x, y);
-            const label = child.visible && child.contains(inside) ? rows.labelAt(child, inside.x, inside.y) : null;
-            if (label !== null)
-                return label;
-        }
-        return null;
+    function labelAt(item: Item, place: point): PlainLabel {
+        const hit = Array.from(item.children).filter(child => child.visible && child.contains(item.mapToItem(child, place)));
+        return item as PlainLabel ?? hit.map(child => rows.labelAt(child, item.mapToItem(child, place))).find(label => label) ?? null;
     }
 
     /// The whole of the text at a place of the view if it is cut short there; nothing otherwise.
     function cutTextAt(x: real, y: real): string {
         const row = rows.itemAt(x + rows.contentX, y + rows.contentY);
-        const place = rows.mapToItem(row, x, y);
-        const label = row === null ? null : rows.labelAt(row, place.x, place.y);
-        return label !== null && label.truncated ? label.text : "";
+        const label = row === null ? null : rows.labelAt(row, rows.mapToItem(row, Qt.point(x, y)));
+        return label?.truncated ? label.text : "";
     }
 
     function scrollBy(distance: real): void {
