@@ -6,7 +6,8 @@
 #include <QQmlEngine>
 #include <QtQuickTest>
 
-/// Lets the tests import the views from the program's own resources, and gives them keys and sessions.
+/// Lets the tests import the views from the program's own resources, and gives them keys and
+/// sessions.
 class Setup : public QObject {
     Q_OBJECT
 
