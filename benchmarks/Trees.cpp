@@ -1,16 +1,39 @@
+#include "PeakMemory.h"
 #include "platform/FileManager.h"
 #include "scanner/DiskScanner.h"
 
 #include <cstdio>
 #include <filesystem>
+#include <functional>
+#include <map>
 #include <string>
-#include <string_view>
 #include <sys/stat.h>
+#include <vector>
 
-// One job on one tree and nothing else, for bench to time beside other programs:
-//   trees measure|remove|measure-std|remove-std PATH
+// One job and nothing else, for bench to time beside other programs:
+//   trees [memory] scan|measure|remove|measure-std|remove-std PATH...
+// Prints the bytes that it found, or how many KiB of memory it took for it.
 
 namespace {
+
+using namespace drossbin;
+
+using Job = std::function<std::int64_t(const std::string& path)>;
+
+std::int64_t scan(const std::string& /*home is the environment's*/) {
+    std::int64_t total = 0;
+    DiskScanner::scan([&total](double, const std::string&, std::int64_t bytes) { total = bytes; });
+    return total;
+}
+
+std::int64_t measure(const std::string& path) {
+    return DiskScanner::directorySize(path).value_or(0);
+}
+
+std::int64_t remove(const std::string& path) {
+    FileManager::removeItem(path);
+    return 0;
+}
 
 std::int64_t measureWithStandardLibrary(const std::string& path) {
     std::int64_t total = 0;
@@ -23,32 +46,37 @@ std::int64_t measureWithStandardLibrary(const std::string& path) {
     return total;
 }
 
-int printed(std::int64_t size) {
-    std::printf("%lld\n", static_cast<long long>(size));
-    return size >= 0 ? 0 : 1;
+std::int64_t removeWithStandardLibrary(const std::string& path) {
+    std::filesystem::remove_all(path);
+    return 0;
+}
+
+const std::map<std::string, Job>& jobs() {
+    static const std::map<std::string, Job> all{{"scan", scan},
+                                                {"measure", measure},
+                                                {"remove", remove},
+                                                {"measure-std", measureWithStandardLibrary},
+                                                {"remove-std", removeWithStandardLibrary}};
+    return all;
 }
 
 } // namespace
 
 int main(int count, char** arguments) {
-    if (count != 3) {
-        std::fputs("usage: trees measure|remove|measure-std|remove-std PATH\n", stderr);
+    std::vector<std::string> words(arguments + 1, arguments + count);
+    const bool tellsMemory = !words.empty() && words.front() == "memory";
+    words.erase(words.begin(), words.begin() + (tellsMemory ? 1 : 0));
+    if (words.size() < 2 || !jobs().contains(words.front())) {
+        std::fputs("usage: trees [memory] scan|measure|remove|measure-std|remove-std PATH...\n",
+                   stderr);
         return 2;
     }
-    const std::string_view job = arguments[1];
-    const std::string path = arguments[2];
-    if (job == "measure") {
-        return printed(drossbin::DiskScanner::directorySize(path).value_or(-1));
+    const Job& job = jobs().at(words.front());
+    const PeakMemory memory;
+    std::int64_t total = 0;
+    for (std::size_t index = 1; index < words.size(); ++index) {
+        total += job(words[index]);
     }
-    if (job == "measure-std") {
-        return printed(measureWithStandardLibrary(path));
-    }
-    if (job == "remove") {
-        return drossbin::FileManager::removeItem(path) ? 1 : 0;
-    }
-    if (job == "remove-std") {
-        std::filesystem::remove_all(path);
-        return 0;
-    }
-    return 2;
+    std::printf("%lld\n", static_cast<long long>(tellsMemory ? memory.growth() : total));
+    return 0;
 }

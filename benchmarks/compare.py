@@ -17,15 +17,18 @@ sys.path.append(str(HERE.parent / "tests" / "journeys"))
 
 import world as worlds  # noqa: E402  (the path has to be known first)
 
+import calls  # noqa: E402
 import deleting  # noqa: E402
 import idling  # noqa: E402
 import interacting  # noqa: E402
 import measuring  # noqa: E402
+import memory  # noqa: E402
+import scanning  # noqa: E402
 import starting  # noqa: E402
 import table  # noqa: E402
 from bench import Bench  # noqa: E402
 
-CHAPTERS = (measuring, deleting, starting, idling, interacting)
+CHAPTERS = (measuring, scanning, calls, memory, deleting, starting, idling, interacting)
 
 
 def arguments():
@@ -50,7 +53,8 @@ def run(bench):
 def save(bench, machine, cases):
     results = {"machine": machine, "quick": bench.quick, "cases": cases}
     (bench.build / "results.json").write_text(json.dumps(results, indent=2, ensure_ascii=False))
-    (bench.build / "results.md").write_text(table.markdown(cases) + "\n")
+    text = f"{table.machine_line(machine)}\n\n{table.markdown(cases)}\n"
+    (bench.build / "results.md").write_text(text)
 
 
 def main():

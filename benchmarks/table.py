@@ -95,6 +95,11 @@ def machine(folder):
     }
 
 
+def machine_line(machine):
+    return ("{date}: {processor}, {cores} cores, memory of {memory}, {file system}, {system}, "
+            "load {load:.2f} at the start.").format(**machine)
+
+
 def _first_line(path, key):
     lines = pathlib.Path(path).read_text().splitlines() if os.path.exists(path) else []
     return next((line.split(":", 1)[1].strip() for line in lines if line.startswith(key)), None)
