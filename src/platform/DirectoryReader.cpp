@@ -1,5 +1,7 @@
 #include "platform/DirectoryReader.h"
 
+#include "platform/SystemError.h"
+
 #include <algorithm>
 #include <cstring>
 #include <fcntl.h>
@@ -50,6 +52,7 @@ bool DirectoryReader::read(DirectoryBlock& block, std::size_t capacity) {
             std::make_unique_for_overwrite<std::array<std::byte, DirectoryBlock::capacity>>();
     }
     block.m_next = 0;
+    m_error = {};
     block.m_end = fill(block.m_records->data(), std::min(capacity, DirectoryBlock::capacity));
     return block.m_end > 0;
 }
@@ -65,9 +68,11 @@ DirectoryReader::DirectoryReader(int folder, Position start)
     }
 }
 
-// NOLINTNEXTLINE(readability-make-member-function-const): it moves the folder's position
 std::size_t DirectoryReader::fill(std::byte* records, std::size_t capacity) {
     const ssize_t size = ::getdents64(m_folder, records, capacity);
+    if (size < 0) {
+        m_error = lastSystemError();
+    }
     return size > 0 ? static_cast<std::size_t>(size) : 0;
 }
 
@@ -91,10 +96,12 @@ DirectoryReader::DirectoryReader(int folder, Position start)
 void DirectoryReader::openStream() {
     const int descriptor = ::openat(m_folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0) {
+        m_error = lastSystemError();
         return;
     }
     m_stream.reset(::fdopendir(descriptor));
     if (!m_stream) {
+        m_error = lastSystemError();
         ::close(descriptor);
         return;
     }
@@ -109,8 +116,10 @@ std::size_t DirectoryReader::fill(std::byte* records, std::size_t capacity) {
     }
     std::size_t end = 0;
     while (m_stream && end + sizeof(Record) <= capacity) {
+        errno = 0; // the one sign by which readdir tells the end from an error
         const Record* record = ::readdir(m_stream.get());
         if (record == nullptr) {
+            m_error = lastSystemError();
             break;
         }
         auto* copy = reinterpret_cast<Record*>(records + end);

@@ -6,6 +6,7 @@
 #include <dirent.h>
 #include <memory>
 #include <optional>
+#include <system_error>
 
 namespace drossbin {
 
@@ -47,9 +48,12 @@ class DirectoryReader {
     explicit DirectoryReader(int folder, Position start = 0);
 
     /// Fills `block` with the next entries, using at most `capacity` bytes of it (2 KiB or more).
-    /// False, and the block empty, at the end of the folder and when it cannot be read: `errno`,
-    /// cleared before, tells which.
+    /// False, and the block empty, at the end of the folder and when it cannot be read: `error`
+    /// tells which.
     bool read(DirectoryBlock& block, std::size_t capacity = DirectoryBlock::capacity);
+
+    /// Why the last read failed; no error when it did not.
+    [[nodiscard]] std::error_code error() const { return m_error; }
 
     /// Starts again at the first entry, with what the folder holds by then.
     void rewind();
@@ -61,6 +65,7 @@ class DirectoryReader {
     std::size_t fill(std::byte* records, std::size_t capacity);
 
     int m_folder;
+    std::error_code m_error;
 #ifndef __linux__
     struct CloseStream {
         void operator()(DIR* stream) const { ::closedir(stream); }

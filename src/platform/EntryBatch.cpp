@@ -1,7 +1,5 @@
 #include "platform/EntryBatch.h"
 
-#include "platform/SystemError.h"
-
 #include <algorithm>
 #include <cstring>
 
@@ -35,11 +33,10 @@ std::error_code EntryBatch::readFrom(DirectoryReader& reader) {
     m_folders = 0;
     m_endsFolder = false;
     while (!m_endsFolder && !isFull()) {
-        errno = 0;
         if (reader.read(m_block)) {
             takeBlock();
-        } else if (errno != 0) {
-            return lastSystemError();
+        } else if (reader.error()) {
+            return reader.error();
         } else {
             m_endsFolder = true;
         }

@@ -2,10 +2,12 @@
 
 #include "platform/FileDescriptor.h"
 #include "support/ScratchFolder.h"
+#include "support/SystemCalls.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <map>
 #include <string>
@@ -107,6 +109,7 @@ TEST(DirectoryReader, reads_a_folder_of_many_blocks_to_its_end) {
     EXPECT_FALSE(reader.read(block));
     EXPECT_EQ(block.bytesLeft(), 0U);
     EXPECT_FALSE(block.next().has_value());
+    EXPECT_EQ(reader.error(), std::error_code());
 }
 
 TEST(DirectoryReader, reads_no_more_at_a_time_than_it_is_told) {
@@ -156,12 +159,30 @@ TEST(DirectoryReader, goes_on_from_a_position_in_a_later_opening) {
     EXPECT_EQ(all.size(), 500U);
 }
 
-TEST(DirectoryReader, gives_nothing_where_there_is_no_folder_to_read) {
+TEST(DirectoryReader, gives_nothing_but_the_error_where_there_is_no_folder_to_read) {
     const ScratchFolder scratch;
     const FileDescriptor file(::open(scratch.file("file", 10).c_str(), O_RDONLY | O_CLOEXEC));
     DirectoryReader reader(file.get());
     EXPECT_TRUE(entriesLeft(reader).empty());
+    EXPECT_EQ(reader.error(), std::errc::not_a_directory);
 }
+
+#ifdef __linux__
+TEST(DirectoryReader, forgets_an_error_when_it_can_read_again) {
+    const ScratchFolder scratch;
+    scratch.file("file", 0);
+    const FileDescriptor folder = open(scratch.path());
+    DirectoryReader reader(folder.get());
+    DirectoryBlock block;
+    {
+        const test::SystemCallHook failure([](const test::SystemCallHook::Call&) { return EIO; });
+        EXPECT_FALSE(reader.read(block));
+    }
+    EXPECT_EQ(reader.error(), std::errc::io_error);
+    EXPECT_TRUE(reader.read(block));
+    EXPECT_EQ(reader.error(), std::error_code());
+}
+#endif
 
 } // namespace
 } // namespace drossbin

@@ -20,12 +20,14 @@ namespace {
 thread_local const SystemCallHook::Hook* currentHook = nullptr;
 thread_local bool hidesKinds = false;
 
-/// Whether the call may go on; if not, `errno` is set.
+/// Whether the call may go on; if not, `errno` is set. What the hook itself does leaves no trace
+/// in `errno`: it belongs to the caller, who is about to find out what only its own call did.
 bool isLetThrough(const SystemCallHook::Call& call) {
+    const int before = errno;
     const SystemCallHook::Hook* hook = std::exchange(currentHook, nullptr);
     const int error = hook != nullptr ? (*hook)(call) : 0;
     currentHook = hook;
-    errno = error != 0 ? error : errno;
+    errno = error != 0 ? error : before;
     return error == 0;
 }
 
