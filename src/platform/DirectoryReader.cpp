@@ -54,6 +54,9 @@ bool DirectoryReader::read(DirectoryBlock& block, std::size_t capacity) {
     block.m_next = 0;
     m_error = {};
     block.m_end = fill(block.m_records->data(), std::min(capacity, DirectoryBlock::capacity));
+    if (m_error == std::errc::no_such_file_or_directory) {
+        m_error = {}; // the folder was removed while it was open, and so ends here
+    }
     return block.m_end > 0;
 }
 

@@ -49,7 +49,7 @@ class DirectoryReader {
 
     /// Fills `block` with the next entries, using at most `capacity` bytes of it (2 KiB or more).
     /// False, and the block empty, at the end of the folder and when it cannot be read: `error`
-    /// tells which.
+    /// tells which. A folder that was removed meanwhile is at its end.
     bool read(DirectoryBlock& block, std::size_t capacity = DirectoryBlock::capacity);
 
     /// Why the last read failed; no error when it did not.

@@ -159,6 +159,16 @@ TEST(DirectoryReader, goes_on_from_a_position_in_a_later_opening) {
     EXPECT_EQ(all.size(), 500U);
 }
 
+TEST(DirectoryReader, is_at_the_end_of_a_folder_that_was_removed_meanwhile) {
+    const ScratchFolder scratch;
+    const std::string path = scratch.folder("folder");
+    const FileDescriptor folder = open(path);
+    ASSERT_EQ(::rmdir(path.c_str()), 0);
+    DirectoryReader reader(folder.get());
+    EXPECT_TRUE(entriesLeft(reader).empty());
+    EXPECT_EQ(reader.error(), std::error_code());
+}
+
 TEST(DirectoryReader, gives_nothing_but_the_error_where_there_is_no_folder_to_read) {
     const ScratchFolder scratch;
     const FileDescriptor file(::open(scratch.file("file", 10).c_str(), O_RDONLY | O_CLOEXEC));

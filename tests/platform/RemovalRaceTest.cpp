@@ -54,6 +54,20 @@ class RemovalRace : public testing::Test {
         return removeWithChange(m_item, function, name, change);
     }
 
+    /// Removes the item while someone removes "folder" right before it is read for the `nth` time.
+    std::error_code removeWithChangeBeforeRead(int nth) {
+        int reads = -1; // until the folder is open
+        const SystemCallHook hook([&](const SystemCallHook::Call& call) {
+            if (call.function == "openat") {
+                reads = call.name == "folder" ? 0 : -1;
+            } else if (call.function == "getdents64" && reads >= 0 && ++reads == nth) {
+                fs::remove_all(m_item + "/folder");
+            }
+            return 0;
+        });
+        return FileManager::removeItem(m_item);
+    }
+
     void expectOnlyCanaryLeft() const {
         EXPECT_FALSE(isThere(m_item));
         EXPECT_TRUE(isThere(m_scratch / "canary/file"));
@@ -72,6 +86,17 @@ TEST_F(RemovalRace, with_one_who_removes_a_folder_first_is_no_error) {
     EXPECT_EQ(remove("openat", "folder", [&] { fs::remove_all(m_item + "/folder"); }), noError);
     expectOnlyCanaryLeft();
 }
+
+#ifdef __linux__
+// The first read finds what is in the folder, the second one its end.
+TEST_F(RemovalRace, with_one_who_removes_an_opened_folder_first_is_no_error) {
+    for (const int nth : {1, 2}) {
+        m_scratch.file("item/folder/below", 1);
+        EXPECT_EQ(removeWithChangeBeforeRead(nth), noError) << nth;
+        expectOnlyCanaryLeft();
+    }
+}
+#endif
 
 TEST_F(RemovalRace, with_one_who_removes_an_emptied_folder_first_is_no_error) {
     const auto change = [&] { fs::remove_all(m_item + "/folder"); };
