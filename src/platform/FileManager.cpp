@@ -1,22 +1,21 @@
 #include "platform/FileManager.h"
 
+#include "platform/DirectoryReader.h"
 #include "platform/FileDescriptor.h"
+#include "platform/OpenFolder.h"
 #include "platform/PathParts.h"
 #include "platform/SystemError.h"
 #include "platform/TreeRemoval.h"
 
 #include <array>
-#include <cerrno>
 #include <cstdlib>
-#include <dirent.h>
 #include <fcntl.h>
 #include <limits>
-#include <memory>
 #include <pwd.h>
-#include <string_view>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
+#include <utility>
 
 namespace drossbin {
 
@@ -29,10 +28,6 @@ constexpr int searchOnly = O_SEARCH;
 #else
 constexpr int searchOnly = O_RDONLY;
 #endif
-
-struct CloseFolder {
-    void operator()(DIR* folder) const { ::closedir(folder); }
-};
 
 std::string withoutTrailingSlashes(std::string path) {
     path.erase(path.find_last_not_of('/') + 1);
@@ -116,19 +111,19 @@ std::optional<std::int64_t> FileManager::systemSize(const std::string& path) {
 }
 
 std::optional<std::vector<std::string>> FileManager::contentsOfDirectory(const std::string& path) {
-    const std::unique_ptr<DIR, CloseFolder> folder(::opendir(path.c_str()));
-    if (folder == nullptr) {
+    const FileDescriptor folder = openFolder(AT_FDCWD, path.c_str(), LastLink::followed);
+    if (!folder.isOpen()) {
         return std::nullopt;
     }
     std::vector<std::string> names;
-    errno = 0;
-    while (const dirent* entry = ::readdir(folder.get())) {
-        const std::string_view name(entry->d_name);
-        if (name != "." && name != "..") {
-            names.emplace_back(name);
+    DirectoryReader reader(folder.get());
+    DirectoryBlock entries;
+    while (reader.read(entries)) {
+        while (const auto entry = entries.next()) {
+            names.emplace_back(entry->name);
         }
     }
-    return errno == 0 ? std::optional(std::move(names)) : std::nullopt;
+    return reader.error() ? std::nullopt : std::optional(std::move(names));
 }
 
 std::error_code FileManager::createDirectory(const std::string& path) {

@@ -1,10 +1,12 @@
 #include "platform/FileManager.h"
 
 #include "support/ScratchFolder.h"
+#include "support/SystemCalls.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
@@ -20,6 +22,7 @@ namespace {
 
 using test::ScratchFolder;
 using test::ScratchHome;
+using test::SystemCallHook;
 using testing::Optional;
 using testing::UnorderedElementsAre;
 using Existence = FileManager::Existence;
@@ -98,6 +101,20 @@ TEST(ContentsOfDirectory, are_absent_where_there_is_no_folder) {
     EXPECT_EQ(FileManager::contentsOfDirectory(scratch / "nothing"), std::nullopt);
     EXPECT_EQ(FileManager::contentsOfDirectory(scratch.file("file", 1)), std::nullopt);
 }
+
+#ifdef __linux__
+TEST(ContentsOfDirectory, are_absent_where_they_cannot_be_read_to_the_end) {
+    const ScratchFolder scratch;
+    scratch.file("file", 1);
+    for (const int nth : {1, 2}) {
+        int reads = 0;
+        const SystemCallHook failure([&](const SystemCallHook::Call& call) {
+            return call.function == "getdents64" && ++reads == nth ? EIO : 0;
+        });
+        EXPECT_EQ(FileManager::contentsOfDirectory(scratch.path()), std::nullopt) << nth;
+    }
+}
+#endif
 
 TEST(AttributesOfItem, hold_size_and_date_to_the_microsecond) {
     const ScratchFolder scratch;
