@@ -128,9 +128,7 @@ FileDescriptor TreeWalk::openSubfolder(const char* name) {
 
 void TreeWalk::takeStock() {
     m_untilStock = stretch;
-    if (m_crew == nullptr) {
-        m_crew = WalkCrew::ofThisProcess();
-    }
+    m_crew = m_measurement.crew;
     if (m_crew == nullptr) {
         return;
     }

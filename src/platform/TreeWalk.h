@@ -2,6 +2,7 @@
 
 #include "platform/DirectoryReader.h"
 #include "platform/FolderStack.h"
+#include "platform/Measurement.h"
 #include "platform/OpenFolder.h"
 #include "platform/ThreadPace.h"
 
@@ -10,9 +11,6 @@
 #include <string>
 
 namespace drossbin {
-
-class WalkCrew;
-struct Measurement;
 
 /// A part of a tree that one thread takes on: entries of one folder and all that is below them.
 struct Parcel {

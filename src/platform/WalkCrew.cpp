@@ -4,10 +4,10 @@
 
 #include <algorithm>
 #include <memory>
+#include <pthread.h>
 #include <sys/resource.h>
 #include <system_error>
 #include <thread>
-#include <unistd.h>
 #include <utility>
 
 namespace drossbin {
@@ -24,15 +24,18 @@ std::size_t mostThreads() {
 } // namespace
 
 WalkCrew* WalkCrew::ofThisProcess() {
-    static const pid_t process = ::getpid();
+    // Asking the system each time would cost a small folder more than its sum.
+    static std::atomic<bool> isForked = false;
+    static const int watch = ::pthread_atfork(nullptr, nullptr, [] { isForked = true; });
     // Never destroyed: a walk that still runs must not hold up the end of the process, and the
     // sleeping threads end with it.
-    static WalkCrew* const crew = std::make_unique<WalkCrew>().release();
-    return ::getpid() == process ? crew : nullptr;
+    static WalkCrew* const crew =
+        std::make_unique<WalkCrew>(std::thread::hardware_concurrency()).release();
+    return isForked || watch != 0 ? nullptr : crew;
 }
 
-WalkCrew::WalkCrew()
-    : m_usualStrength(std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, 16) - 1)
+WalkCrew::WalkCrew(std::size_t cores)
+    : m_usualStrength(std::clamp<std::size_t>(cores, 1, 16) - 1)
     , m_fullStrength(std::max(m_usualStrength, mostThreads()))
     , m_strength(m_usualStrength) {}
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Measurement.h"
 #include "platform/TreeWalk.h"
 
 #include <atomic>
@@ -11,14 +12,6 @@
 
 namespace drossbin {
 
-/// What was given away of one tree, and what came back of it.
-struct Measurement {
-    std::int64_t size = 0;
-    std::size_t parcelsOut = 0;
-    bool isOwnerWaiting = false;
-    std::condition_variable comeBack;
-};
-
 /// The threads that help any walk that proves large. They start when first wanted and then sleep
 /// until they are wanted again: to start threads for each folder costs more than most folders.
 class WalkCrew {
@@ -27,7 +20,8 @@ class WalkCrew {
     /// was forked, where the threads are not; a walk goes alone then.
     static WalkCrew* ofThisProcess();
 
-    WalkCrew();
+    /// For a machine of so many cores.
+    explicit WalkCrew(std::size_t cores);
 
     /// Whether a walk should give something away. A look, without a lock.
     [[nodiscard]] bool wantsWork() const {
@@ -61,7 +55,7 @@ class WalkCrew {
     std::atomic<std::size_t> m_strength; ///< threads that may walk at a time
     std::atomic<std::size_t> m_waitingParcels = 0;
 
-    // Guarded by m_mutex, as is every Measurement.
+    // Guarded by m_mutex, as is what is given away in every Measurement.
     std::mutex m_mutex;
     std::condition_variable m_arrival;
     TaskQueue m_tasks;
