@@ -15,27 +15,11 @@ std::size_t mostOpenLevels() {
     return std::clamp<std::size_t>(known ? limit.rlim_cur / 64 : 0, 3, 16);
 }
 
-/// The folder `distance` levels above `folder`, through "..".
-FileDescriptor openAbove(int folder, std::size_t distance) {
-    constexpr std::size_t step = 1000; // in one path, which may not exceed PATH_MAX
-    FileDescriptor above;
-    do {
-        const std::size_t levels = std::min(distance, step);
-        std::string path;
-        for (std::size_t level = 0; level < levels; ++level) {
-            path += "../";
-        }
-        above = openFolderPatiently(above.isOpen() ? above.get() : folder, path.c_str(),
-                                    LastLink::refused);
-        distance -= levels;
-    } while (distance > 0 && above.isOpen());
-    return above;
-}
-
 } // namespace
 
-FolderStack::FolderStack()
-    : m_mostOpen(mostOpenLevels()) {}
+FolderStack::FolderStack(Measurement& measurement)
+    : m_measurement(measurement)
+    , m_mostOpen(mostOpenLevels()) {}
 
 void FolderStack::enter(OpenFolder folder) {
     const std::size_t depth = isEmpty() ? 0 : m_levels.back().depth + 1;
@@ -75,6 +59,23 @@ bool FolderStack::reopen(Level& level, const Level& below) {
         level.folder.descriptor = std::move(folder);
     }
     return isSame;
+}
+
+// The folder `distance` levels above `folder`, through "..".
+FileDescriptor FolderStack::openAbove(int folder, std::size_t distance) {
+    constexpr std::size_t step = 1000; // in one path, which may not exceed PATH_MAX
+    FileDescriptor above;
+    do {
+        const std::size_t levels = std::min(distance, step);
+        std::string path;
+        for (std::size_t level = 0; level < levels; ++level) {
+            path += "../";
+        }
+        above = m_measurement.open(above.isOpen() ? above.get() : folder, path.c_str(),
+                                   LastLink::refused);
+        distance -= levels;
+    } while (distance > 0 && above.isOpen());
+    return above;
 }
 
 void FolderStack::addSubfolder(std::string_view name) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/DirectoryReader.h"
+#include "platform/Measurement.h"
 #include "platform/OpenFolder.h"
 
 #include <cstddef>
@@ -16,7 +17,7 @@ namespace drossbin {
 /// the uppermost are closed; ".." leads back to them from below, so no path is ever needed.
 class FolderStack {
   public:
-    FolderStack();
+    explicit FolderStack(Measurement& measurement);
 
     [[nodiscard]] bool isEmpty() const { return m_levels.empty(); }
 
@@ -76,8 +77,10 @@ class FolderStack {
     };
 
     static OpenFolder openAgain(const OpenFolder& folder);
-    static bool reopen(Level& level, const Level& below);
+    bool reopen(Level& level, const Level& below);
+    FileDescriptor openAbove(int folder, std::size_t distance);
 
+    Measurement& m_measurement;
     std::vector<Level> m_levels;
     std::string m_names; ///< those of the deepest level are the last
     std::size_t m_uppermostOpen = 0;

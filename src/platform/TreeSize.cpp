@@ -8,20 +8,46 @@
 #include "platform/WalkCrew.h"
 
 #include <fcntl.h>
+#include <mutex>
+#include <shared_mutex>
 #include <utility>
 
 namespace drossbin {
 
-std::optional<std::int64_t> treeSize(const std::string& path, WalkCrew* crew) {
-    FileDescriptor root = openFolderPatiently(AT_FDCWD, path.c_str(), LastLink::followed);
+namespace {
+
+std::optional<std::int64_t> sizeBelow(const std::string& path, Measurement& measurement) {
+    FileDescriptor root = measurement.open(AT_FDCWD, path.c_str(), LastLink::followed);
     struct stat status {};
     if (!root.isOpen() || ::fstat(root.get(), &status) != 0) {
         return std::nullopt;
     }
-    Measurement measurement(crew);
     TreeWalk walk(measurement);
     const std::int64_t own = walk.sizeBelow({std::move(root), OpenFolder::identityFrom(status)});
     return checkedSum(own, walk.sizeGivenAway());
+}
+
+std::optional<std::int64_t> sizeBelow(const std::string& path) {
+    Measurement alone(nullptr);
+    return sizeBelow(path, alone);
+}
+
+} // namespace
+
+std::optional<std::int64_t> treeSize(const std::string& path, WalkCrew* crew) {
+    if (crew == nullptr) {
+        return sizeBelow(path);
+    }
+    {
+        const std::shared_lock besideOthers(crew->descriptors());
+        Measurement together(crew);
+        const auto size = sizeBelow(path, together);
+        if (!together.isGivenUp()) {
+            return size;
+        }
+    }
+    const std::unique_lock whileOthersWait(crew->descriptors());
+    return sizeBelow(path);
 }
 
 std::optional<std::int64_t> FileManager::sizeOfFolderContents(const std::string& path) {

@@ -47,7 +47,7 @@ std::int64_t TreeWalk::sizeGivenAway() {
 }
 
 void TreeWalk::walk() {
-    while (!m_stack.isEmpty()) {
+    while (!m_stack.isEmpty() && !m_measurement.isGivenUp()) {
         if (m_stack.hasSubfolders()) {
             enterLastSubfolder();
         } else if (m_stack.unread()) {
@@ -121,7 +121,7 @@ FileDescriptor TreeWalk::openSubfolder(const char* name) {
         folder = openFolder(m_stack.folder(), name, LastLink::refused);
     }
     if (!folder.isOpen() && lacksDescriptors()) {
-        folder = openFolderPatiently(m_stack.folder(), name, LastLink::refused);
+        folder = m_measurement.open(m_stack.folder(), name, LastLink::refused);
     }
     return folder;
 }

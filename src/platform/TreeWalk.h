@@ -24,7 +24,8 @@ struct Parcel {
 class TreeWalk {
   public:
     explicit TreeWalk(Measurement& measurement)
-        : m_measurement(measurement) {}
+        : m_measurement(measurement)
+        , m_stack(measurement) {}
 
     /// The sum of the sizes of everything below `folder`, less what was given away.
     std::int64_t sizeBelow(OpenFolder folder);

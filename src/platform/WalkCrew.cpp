@@ -14,7 +14,8 @@ namespace drossbin {
 
 namespace {
 
-/// A disk answers that many requests at a time; each thread needs up to 4 descriptors and more.
+/// A disk answers that many requests at a time; each thread needs up to 4 descriptors and more,
+/// and each parcel that waits for one holds another.
 std::size_t mostThreads() {
     rlimit limit{};
     const bool known = ::getrlimit(RLIMIT_NOFILE, &limit) == 0;
@@ -35,8 +36,8 @@ WalkCrew* WalkCrew::ofThisProcess() {
 }
 
 WalkCrew::WalkCrew(std::size_t cores)
-    : m_usualStrength(std::clamp<std::size_t>(cores, 1, 16) - 1)
-    , m_fullStrength(std::max(m_usualStrength, mostThreads()))
+    : m_fullStrength(mostThreads())
+    , m_usualStrength(std::min(std::max<std::size_t>(cores, 1) - 1, m_fullStrength))
     , m_strength(m_usualStrength) {}
 
 void WalkCrew::suit(bool hasWaited) {

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <deque>
 #include <mutex>
+#include <shared_mutex>
 
 namespace drossbin {
 
@@ -32,6 +33,9 @@ class WalkCrew {
     /// More threads walk while they wait for the disk, and no more than there are cores when not.
     void suit(bool hasWaited);
 
+    /// Held shared by each walk with the crew, and alone by one that needs every descriptor.
+    [[nodiscard]] std::shared_mutex& descriptors() { return m_descriptors; }
+
     void give(Parcel parcel, Measurement& measurement);
 
     /// Takes part in what was given away until all of it is measured; returns the size of it.
@@ -50,10 +54,11 @@ class WalkCrew {
     void perform(const TaskQueue::iterator& next, Lock& lock);
     void startThread();
 
-    const std::size_t m_usualStrength;
     const std::size_t m_fullStrength;
+    const std::size_t m_usualStrength;
     std::atomic<std::size_t> m_strength; ///< threads that may walk at a time
     std::atomic<std::size_t> m_waitingParcels = 0;
+    std::shared_mutex m_descriptors;
 
     // Guarded by m_mutex, as is what is given away in every Measurement.
     std::mutex m_mutex;
