@@ -18,14 +18,24 @@ std::string temporaryName() {
     return ".drossbin-" + std::to_string(random()) + "-" + std::to_string(random());
 }
 
+/// What `call` returns, made again as long as a signal interrupts it.
+template <class Call>
+auto uninterrupted(Call call) {
+    auto result = call();
+    while (result < 0 && errno == EINTR) {
+        result = call();
+    }
+    return result;
+}
+
 std::error_code writeAll(int file, std::string_view text) {
     while (!text.empty()) {
-        const ssize_t written = ::write(file, text.data(), text.size());
-        if (written >= 0) {
-            text.remove_prefix(static_cast<std::size_t>(written));
-        } else if (errno != EINTR) {
+        const ssize_t written =
+            uninterrupted([&] { return ::write(file, text.data(), text.size()); });
+        if (written < 0) {
             return lastSystemError();
         }
+        text.remove_prefix(static_cast<std::size_t>(written));
     }
     return {};
 }
@@ -33,16 +43,18 @@ std::error_code writeAll(int file, std::string_view text) {
 std::error_code flush(int descriptor) {
 #ifdef F_FULLFSYNC
     // There fsync leaves the data in the drive's own memory.
-    if (::fcntl(descriptor, F_FULLFSYNC) == 0) {
+    if (uninterrupted([&] { return ::fcntl(descriptor, F_FULLFSYNC); }) == 0) {
         return {};
     }
 #endif
-    return ::fsync(descriptor) == 0 ? std::error_code() : lastSystemError();
+    const bool isFlushed = uninterrupted([&] { return ::fsync(descriptor); }) == 0;
+    return isFlushed ? std::error_code() : lastSystemError();
 }
 
 std::error_code writeNewFile(int folder, const std::string& name, std::string_view text) {
+    constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     const FileDescriptor file(
-        ::openat(folder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644));
+        uninterrupted([&] { return ::openat(folder, name.c_str(), flags, 0644); }));
     if (!file.isOpen()) {
         return lastSystemError();
     }
@@ -64,7 +76,8 @@ std::error_code replace(int folder, const std::string& newName, const std::strin
 // file system has it. The price is that a kill may leave a hidden file with the temporary name.
 std::error_code FileManager::writeAtomically(const std::string& text, const std::string& path) {
     const PathParts target(path);
-    const FileDescriptor folder(::open(target.folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const FileDescriptor folder(uninterrupted(
+        [&] { return ::open(target.folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
     if (!folder.isOpen()) {
         return lastSystemError();
     }

@@ -82,15 +82,31 @@ TEST(AtomicWrite, goes_on_after_a_write_that_took_only_a_part) {
     EXPECT_EQ(contentOf(scratch / "log"), text);
 }
 
-TEST(AtomicWrite, goes_on_after_a_signal) {
+/// Writes while a signal interrupts the `nth` call to the file system; returns the call's name,
+/// or nothing when there were fewer.
+std::string writeWithSignalAtCall(int nth) {
     const ScratchFolder scratch;
-    int interruptions = 0;
-    const SystemCallHook hook([&](const SystemCallHook::Call& call) {
-        return call.function == "write" && interruptions++ == 0 ? EINTR : 0;
-    });
-    EXPECT_EQ(FileManager::writeAtomically(text, scratch / "log"), noError);
-    EXPECT_EQ(contentOf(scratch / "log"), text);
-    EXPECT_EQ(interruptions, 2);
+    std::string interrupted;
+    {
+        int calls = 0;
+        const SystemCallHook hook([&](const SystemCallHook::Call& call) {
+            interrupted = ++calls == nth ? call.function : interrupted;
+            const bool mayBeInterrupted = call.function != "renameat";
+            return calls == nth && mayBeInterrupted ? EINTR : 0;
+        });
+        EXPECT_EQ(FileManager::writeAtomically(text, scratch / "log"), noError) << interrupted;
+    }
+    EXPECT_EQ(contentOf(scratch / "log"), text) << interrupted;
+    EXPECT_THAT(FileManager::contentsOfDirectory(scratch.path()), Optional(ElementsAre("log")));
+    return interrupted;
+}
+
+TEST(AtomicWrite, goes_on_after_a_signal_at_each_call) {
+    std::vector<std::string> interrupted;
+    do {
+        interrupted.push_back(writeWithSignalAtCall(static_cast<int>(interrupted.size()) + 1));
+    } while (!interrupted.back().empty());
+    EXPECT_THAT(interrupted, ElementsAre("openat", "write", "fsync", "renameat", "fsync", ""));
 }
 
 // By then the new text is in its place: the name must not be lost on the way out.
