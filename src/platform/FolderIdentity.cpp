@@ -1,7 +1,6 @@
 #include "platform/FolderIdentity.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #ifdef STATX_MNT_ID
 #include <sys/sysmacros.h>
 #endif
@@ -22,7 +21,7 @@ std::optional<FolderIdentity> FolderIdentity::of(int folder) {
     if (::fstat(folder, &status) != 0) {
         return std::nullopt;
     }
-    return FolderIdentity{status.st_dev, status.st_ino, 0};
+    return from(status);
 }
 
 } // namespace drossbin

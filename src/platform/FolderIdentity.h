@@ -2,7 +2,7 @@
 
 #include <cstdint>
 #include <optional>
-#include <sys/types.h>
+#include <sys/stat.h>
 
 namespace drossbin {
 
@@ -16,6 +16,11 @@ struct FolderIdentity {
 
     [[nodiscard]] bool sharesMountWith(const FolderIdentity& other) const {
         return device == other.device && mount == other.mount;
+    }
+
+    /// What a status tells: not the mount.
+    static FolderIdentity from(const struct stat& status) {
+        return {status.st_dev, status.st_ino, 0};
     }
 
     /// The identity of an open folder; absent, and the reason in `errno`, when it cannot be asked.

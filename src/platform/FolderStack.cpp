@@ -54,7 +54,7 @@ bool FolderStack::reopen(Level& level, const Level& below) {
     struct stat status {};
     // Another identity: the folder below was moved meanwhile, and the way up is lost.
     const bool isSame = folder.isOpen() && ::fstat(folder.get(), &status) == 0 &&
-                        level.folder.identity == OpenFolder::identityFrom(status);
+                        level.folder.identity == FolderIdentity::from(status);
     if (isSame) {
         level.folder.descriptor = std::move(folder);
     }

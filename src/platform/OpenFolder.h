@@ -1,25 +1,14 @@
 #pragma once
 
 #include "platform/FileDescriptor.h"
-
-#include <sys/stat.h>
+#include "platform/FolderIdentity.h"
 
 namespace drossbin {
 
 /// An open folder, and which one it is, wherever it may be moved.
 struct OpenFolder {
-    struct Identity {
-        dev_t device;
-        ino_t inode;
-        bool operator==(const Identity&) const = default;
-    };
-
-    static Identity identityFrom(const struct stat& status) {
-        return {status.st_dev, status.st_ino};
-    }
-
     FileDescriptor descriptor;
-    Identity identity{};
+    FolderIdentity identity;
 
     [[nodiscard]] bool isOpen() const { return descriptor.isOpen(); }
     [[nodiscard]] int get() const { return descriptor.get(); }

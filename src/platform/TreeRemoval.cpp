@@ -1,14 +1,12 @@
 #include "platform/TreeRemoval.h"
 
-#include "platform/DirectoryReader.h"
 #include "platform/EntryBatch.h"
-#include "platform/FileDescriptor.h"
-#include "platform/FolderIdentity.h"
+#include "platform/OpenFolder.h"
+#include "platform/RemovalLevel.h"
 #include "platform/SystemError.h"
 
 #include <algorithm>
 #include <fcntl.h>
-#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -28,10 +26,6 @@ constexpr int passesPerItem = 10;
 
 std::error_code busy() {
     return std::make_error_code(std::errc::device_or_resource_busy);
-}
-
-FileDescriptor openFolder(int parent, const char* name) {
-    return FileDescriptor(::openat(parent, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
 }
 
 bool isFolder(int parent, const char* name) {
@@ -68,37 +62,8 @@ class TreeRemoval {
     }
 
   private:
-    struct Level {
-        std::string name; ///< in the level above
-        FolderIdentity identity;
-        FileDescriptor folder; ///< closed while many levels below are open
-        std::optional<DirectoryReader> reader;
-        std::vector<std::string> folders; ///< still to be entered, the next one last
-        bool isRead = false;
-        int passes = 0;
-
-        Level(std::string itsName, FolderIdentity itsIdentity, FileDescriptor opened)
-            : name(std::move(itsName))
-            , identity(itsIdentity) {
-            open(std::move(opened));
-        }
-
-        void open(FileDescriptor opened) {
-            folder = std::move(opened);
-            reader.emplace(folder.get());
-        }
-
-        // Forgets what was read: by the time the level is opened again it is gone or read again.
-        void close() {
-            folders = {};
-            isRead = false;
-            reader.reset();
-            folder.close();
-        }
-    };
-
     std::error_code step() {
-        Level& level = m_levels.back();
+        RemovalLevel& level = m_levels.back();
         if (!level.folders.empty()) {
             std::string next = std::move(level.folders.back());
             level.folders.pop_back();
@@ -108,7 +73,7 @@ class TreeRemoval {
     }
 
     std::error_code enter(std::string name) {
-        FileDescriptor folder = openFolder(deepestFolder(), name.c_str());
+        FileDescriptor folder = openFolder(deepestFolder(), name.c_str(), LastLink::refused);
         if (!folder.isOpen()) {
             return handleUnopened(name);
         }
@@ -137,7 +102,7 @@ class TreeRemoval {
         return isRemoved ? std::error_code() : error;
     }
 
-    std::error_code removeBatch(Level& level) {
+    std::error_code removeBatch(RemovalLevel& level) {
         if (const std::error_code error = m_batch.readFrom(*level.reader)) {
             return error;
         }
@@ -159,7 +124,7 @@ class TreeRemoval {
         if (const std::error_code error = reopenLevelAbove()) {
             return error;
         }
-        Level& level = m_levels.back();
+        RemovalLevel& level = m_levels.back();
         const int above = m_levels.size() == 1 ? m_parent : (m_levels.end() - 2)->folder.get();
         if (::unlinkat(above, level.name.c_str(), AT_REMOVEDIR) == 0 || errno == ENOENT ||
             errno == ENOTDIR) {
@@ -182,11 +147,11 @@ class TreeRemoval {
         if (m_levels.size() == 1 || (m_levels.end() - 2)->folder.isOpen()) {
             return {};
         }
-        FileDescriptor folder = openFolder(m_levels.back().folder.get(), "..");
+        FileDescriptor folder = openFolder(m_levels.back().folder.get(), "..", LastLink::refused);
         if (!folder.isOpen()) {
             return lastSystemError();
         }
-        Level& above = *(m_levels.end() - 2);
+        RemovalLevel& above = *(m_levels.end() - 2);
         if (FolderIdentity::of(folder.get()) != above.identity) {
             return busy();
         }
@@ -200,7 +165,7 @@ class TreeRemoval {
 
     int m_parent;
     FolderIdentity m_parentIdentity;
-    std::vector<Level> m_levels;
+    std::vector<RemovalLevel> m_levels;
     EntryBatch m_batch;
 };
 

@@ -23,7 +23,7 @@ std::optional<std::int64_t> sizeBelow(const std::string& path, Measurement& meas
         return std::nullopt;
     }
     TreeWalk walk(measurement);
-    const std::int64_t own = walk.sizeBelow({std::move(root), OpenFolder::identityFrom(status)});
+    const std::int64_t own = walk.sizeBelow({std::move(root), FolderIdentity::from(status)});
     return checkedSum(own, walk.sizeGivenAway());
 }
 

@@ -111,7 +111,7 @@ void TreeWalk::enterLastSubfolder() {
         m_size = checkedSum(m_size, status.st_size);
     }
     if (isKnown && folder.isOpen()) {
-        m_stack.enter({std::move(folder), OpenFolder::identityFrom(status)});
+        m_stack.enter({std::move(folder), FolderIdentity::from(status)});
     }
 }
 
