@@ -20,7 +20,9 @@ namespace {
 constexpr std::size_t openLevels = 16;
 
 // What appears in a folder while it is emptied, or changes its kind, is found by another pass;
-// the bound is for someone who never stops adding.
+// the bound is for someone who never stops adding. To read a folder again because it was closed
+// meanwhile is no pass, and knows no bound: each time a branch of more than 16 levels has gone
+// before, of which a folder may hold any number.
 constexpr int passesPerFolder = 100;
 constexpr int passesPerItem = 10;
 
