@@ -36,8 +36,8 @@ PressButton {
         Rectangle {
             anchors.fill: parent
             radius: height / 2
-            color: button.isSecondary && !Theme.dark ? "black" : "white"
-            opacity: button.hovered && !button.down ? 0.06 : 0
+            visible: button.hovered && !button.down
+            color: button.isSecondary ? Theme.faintHovered : Theme.strongHovered
         }
 
         FocusRing {

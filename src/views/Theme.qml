@@ -23,11 +23,12 @@ QtObject {
     readonly property color darkMaterial: theme.dark ? Qt.rgba(1, 1, 1, 0.08) : Qt.rgba(0.11, 0.11, 0.13, 0.86)
     readonly property color divider: theme.dark ? Qt.rgba(1, 1, 1, 0.12) : Qt.rgba(0, 0, 0, 0.1)
     readonly property color outline: theme.dark ? Qt.rgba(1, 1, 1, 0.16) : Qt.rgba(0, 0, 0, 0.16)
+    readonly property color tooltip: "#3a3a3e"
     readonly property color dim: Qt.rgba(0, 0, 0, theme.dark ? 0.5 : 0.25)
 
-    // Texts: 4.5:1 and more on every surface above
+    // Texts: 4.5:1 and more on every surface that they are on
     readonly property color label: theme.dark ? "#f2f2f5" : "#1d1d1f"
-    readonly property color secondary: theme.dark ? "#b4b4ba" : "#58585d"
+    readonly property color secondary: theme.dark ? "#b8b8be" : "#58585d"
     readonly property color tertiary: theme.dark ? "#a0a0a7" : "#66666b"
     readonly property color quaternary: theme.dark ? "#47474c" : "#dcdce1"
     readonly property color bright: "#ffffff"
@@ -45,6 +46,9 @@ QtObject {
     readonly property color primaryFill: Qt.rgba(0, 0.42, 1, 1)
     readonly property color secondaryFill: Qt.rgba(1, 1, 1, 0.08)
     readonly property color dangerFill: "#d92d20"
+    /// Over a fill while the pointer is: a strong one gets darker, so that white stays readable.
+    readonly property color strongHovered: Qt.rgba(0, 0, 0, 0.08)
+    readonly property color faintHovered: theme.dark ? Qt.rgba(1, 1, 1, 0.06) : Qt.rgba(0, 0, 0, 0.06)
 
     // Type scale, in pixels
     readonly property int largeTitle: 28

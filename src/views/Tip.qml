@@ -36,7 +36,7 @@ T.ToolTip {
 
     background: Rectangle {
         radius: 6
-        color: "#3a3a3e"
+        color: Theme.tooltip
         border.width: 1
         border.color: Qt.rgba(1, 1, 1, 0.12)
     }

@@ -89,6 +89,27 @@ TestCase {
         verify(Qt.colorEqual(labelOf(button).color, data.label));
     }
 
+    function test_changes_its_shade_under_the_pointer_data() {
+        return [
+            { tag: "primary", over: Theme.strongHovered },
+            { tag: "secondary", over: Theme.faintHovered },
+            { tag: "danger", over: Theme.strongHovered }
+        ];
+    }
+
+    function test_changes_its_shade_under_the_pointer(data) {
+        const button = make({ variant: data.tag });
+        const over = button.background.children[0];
+        mouseMove(test, 1, 1);
+        compare(over.visible, false);
+        mouseMove(button, 10, 10);
+        compare(over.visible, true);
+        verify(Qt.colorEqual(over.color, data.over));
+        mousePress(button);
+        compare(over.visible, false);
+        mouseRelease(button);
+    }
+
     function test_shrinks_to_95_percent_about_its_centre_in_150_milliseconds() {
         const button = make();
         mousePress(button);

@@ -58,31 +58,4 @@ TestCase {
         compare(label.font.pixelSize, Theme.caption2);
         compare(symbol.size, Theme.caption2);
     }
-
-    function test_can_be_read_in_light_and_dark_data() {
-        return [{ tag: "light", dark: false }, { tag: "dark", dark: true }];
-    }
-
-    function luminance(color: color): real {
-        const linear = part => part <= 0.04045 ? part / 12.92 : Math.pow((part + 0.055) / 1.055, 2.4);
-        return 0.2126 * linear(color.r) + 0.7152 * linear(color.g) + 0.0722 * linear(color.b);
-    }
-
-    function over(above: color, below: color): color {
-        const mix = (a, b) => a * above.a + b * (1 - above.a);
-        return Qt.rgba(mix(above.r, below.r), mix(above.g, below.g), mix(above.b, below.b), 1);
-    }
-
-    function test_can_be_read_in_light_and_dark(data) {
-        const before = Theme.dark;
-        Theme.dark = data.dark;
-        for (const risk of ["safe", "caution", "critical"]) {
-            const text = Theme.riskColor(risk);
-            // The row below it may be selected.
-            const below = over(Theme.tinted(Theme.blue, 0.06), Theme.window);
-            const shades = [luminance(text), luminance(over(Theme.tinted(text, 0.15), below))].sort((a, b) => b - a);
-            verify((shades[0] + 0.05) / (shades[1] + 0.05) >= 4.5, risk);
-        }
-        Theme.dark = before;
-    }
 }

@@ -1,0 +1,80 @@
+import QtQuick
+import QtTest
+import Drossbin.Views
+
+TestCase {
+    id: test
+
+    name: "Theme"
+
+    Contrast {
+        id: contrast
+    }
+
+    function init() {
+        failOnWarning(/.?/);
+    }
+
+    function cleanup() {
+        Theme.dark = false;
+    }
+
+    /// What is written on what, the surface below first.
+    function pairs(): var {
+        const picked = [Theme.sidebar, Theme.quaternary];
+        const selected = [Theme.window, Theme.tinted(Theme.blue, 0.06)];
+        const panel = [Theme.sheet, Theme.material];
+        const alert = [Theme.sheet, Theme.tinted(Theme.orange, 0.08)];
+        return [
+            { on: "the window", surfaces: [Theme.window], texts: ["label", "secondary", "tertiary", "blue", "orange", "red"] },
+            { on: "the sidebar", surfaces: [Theme.sidebar], texts: ["label", "secondary", "blue"] },
+            { on: "a row of the sidebar under the pointer", surfaces: [Theme.sidebar, Theme.materialHovered], texts: ["label", "secondary"] },
+            { on: "the picked row of the sidebar", surfaces: picked, texts: ["label", "secondary"] },
+            { on: "a sheet", surfaces: [Theme.sheet], texts: ["label", "secondary"] },
+            { on: "a list in a sheet", surfaces: panel, texts: ["label", "secondary", "red"] },
+            { on: "the alert in a sheet", surfaces: alert, texts: ["label", "secondary"] },
+            { on: "a card", surfaces: [Theme.window, Theme.material], texts: ["label", "secondary"] },
+            { on: "a card under the pointer", surfaces: [Theme.window, Theme.materialHovered], texts: ["label", "secondary"] },
+            { on: "a count on a card under the pointer", surfaces: [Theme.window, Theme.materialHovered, Theme.tinted(Theme.blue, 0.1)], texts: ["label"] },
+            { on: "a selected row", surfaces: selected, texts: ["label", "secondary", "tertiary"] },
+            { on: "the filter", surfaces: [Theme.window, Theme.tinted(Theme.quaternary, 0.5)], texts: ["label", "tertiary"] },
+            { on: "text selected in the filter", surfaces: [Theme.primaryFill], texts: ["bright"] },
+            { on: "the browser warning", surfaces: [Theme.window, Theme.tinted(Theme.orange, 0.06)], texts: ["orange"] },
+            { on: "the browser tip", surfaces: [Theme.window, Theme.darkMaterial], texts: ["bright", "brightSecondary"] },
+            { on: "a primary pill", surfaces: [Theme.primaryFill], texts: ["bright"] },
+            { on: "a primary pill under the pointer", surfaces: [Theme.primaryFill, Theme.strongHovered], texts: ["bright"] },
+            { on: "a danger pill", surfaces: [Theme.dangerFill], texts: ["bright"] },
+            { on: "a danger pill under the pointer", surfaces: [Theme.dangerFill, Theme.strongHovered], texts: ["bright"] },
+            { on: "a secondary pill", surfaces: [Theme.window, Theme.secondaryFill], texts: ["secondary"] },
+            { on: "a secondary pill under the pointer", surfaces: [Theme.window, Theme.secondaryFill, Theme.faintHovered], texts: ["secondary"] },
+            { on: "a secondary pill of a sheet under the pointer", surfaces: [Theme.sheet, Theme.secondaryFill, Theme.faintHovered], texts: ["secondary"] },
+            { on: "a tooltip", surfaces: [Theme.tooltip], texts: ["bright"] }
+        ].concat(["green", "orange", "red"].map(color => ({ on: "a badge in a selected row", surfaces: selected.concat([Theme.tinted(Theme[color], 0.15)]), texts: [color] })));
+    }
+
+    function test_texts_stand_out_from_what_they_are_on_data() {
+        const rows = [];
+        for (const dark of [false, true]) {
+            Theme.dark = dark;
+            for (const pair of pairs())
+                for (const text of pair.texts)
+                    rows.push({ tag: (dark ? "dark: " : "light: ") + text + " on " + pair.on, ratio: contrast.of(Theme[text], pair.surfaces) });
+        }
+        return rows;
+    }
+
+    function test_texts_stand_out_from_what_they_are_on(data) {
+        verify(data.ratio >= 4.5, data.ratio);
+    }
+
+    function test_large_symbols_stand_out_from_what_they_are_on_data() {
+        return [{ tag: "light", dark: false }, { tag: "dark", dark: true }];
+    }
+
+    function test_large_symbols_stand_out_from_what_they_are_on(data) {
+        Theme.dark = data.dark;
+        verify(contrast.of(Theme.symbolGreen, [Theme.window]) >= 3);
+        verify(contrast.of(Theme.symbolGreen, [Theme.sheet]) >= 3);
+        verify(contrast.of(Theme.symbolOrange, [Theme.sheet]) >= 3);
+    }
+}
