@@ -31,8 +31,8 @@ QVariant ItemListModel::data(const QModelIndex& index, int role) const {
         return item->safetyNote.has_value();
     case NoteRole:
         return toQString(item->safetyNote.value_or(""));
-    case RiskNameRole:
-        return toQString(rawValue(item->risk));
+    case RiskColorRole:
+        return toQString(color(item->risk));
     case RiskLabelRole:
         return toQString(label(item->risk));
     case RiskSymbolRole:
@@ -57,7 +57,7 @@ QHash<int, QByteArray> ItemListModel::roleNames() const {
         {SymbolRole, "symbol"},
         {HasNoteRole, "hasNote"},
         {NoteRole, "note"},
-        {RiskNameRole, "riskName"},
+        {RiskColorRole, "riskColor"},
         {RiskLabelRole, "riskLabel"},
         {RiskSymbolRole, "riskSymbol"},
         {DateTextRole, "dateText"},

@@ -23,7 +23,7 @@ class ItemListModel : public QAbstractListModel {
         SymbolRole,
         HasNoteRole,
         NoteRole,
-        RiskNameRole,
+        RiskColorRole,
         RiskLabelRole,
         RiskSymbolRole,
         DateTextRole,

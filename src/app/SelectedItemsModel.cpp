@@ -22,8 +22,8 @@ QVariant SelectedItemsModel::data(const QModelIndex& index, int role) const {
         return displayQString(item->name);
     case SizeTextRole:
         return toQString(item->formattedSize());
-    case RiskNameRole:
-        return toQString(rawValue(item->risk));
+    case RiskColorRole:
+        return toQString(color(item->risk));
     case RiskLabelRole:
         return toQString(label(item->risk));
     case RiskSymbolRole:
@@ -36,7 +36,7 @@ QVariant SelectedItemsModel::data(const QModelIndex& index, int role) const {
 QHash<int, QByteArray> SelectedItemsModel::roleNames() const {
     return {{NameRole, "name"},
             {SizeTextRole, "sizeText"},
-            {RiskNameRole, "riskName"},
+            {RiskColorRole, "riskColor"},
             {RiskLabelRole, "riskLabel"},
             {RiskSymbolRole, "riskSymbol"}};
 }

@@ -17,7 +17,7 @@ class SelectedItemsModel : public QAbstractListModel {
     enum Role {
         NameRole = Qt::UserRole,
         SizeTextRole,
-        RiskNameRole,
+        RiskColorRole,
         RiskLabelRole,
         RiskSymbolRole,
     };

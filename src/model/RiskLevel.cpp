@@ -11,13 +11,13 @@ struct Presentation {
     std::string_view rawValue;
     std::string_view label;
     std::string_view icon;
-    RiskColor color;
+    std::string_view color;
 };
 
 constexpr std::array<Presentation, allRiskLevels.size()> presentations{{
-    {"safe", "Safe to Clear", "checkmark.circle.fill", RiskColor::green},
-    {"caution", "Review First", "exclamationmark.triangle.fill", RiskColor::orange},
-    {"critical", "Protected", "xmark.octagon.fill", RiskColor::red},
+    {"safe", "Safe to Clear", "checkmark.circle.fill", "green"},
+    {"caution", "Review First", "exclamationmark.triangle.fill", "orange"},
+    {"critical", "Protected", "xmark.octagon.fill", "red"},
 }};
 
 const Presentation& presentation(RiskLevel risk) {
@@ -46,7 +46,7 @@ std::string_view icon(RiskLevel risk) {
     return presentation(risk).icon;
 }
 
-RiskColor color(RiskLevel risk) {
+std::string_view color(RiskLevel risk) {
     return presentation(risk).color;
 }
 

@@ -11,9 +11,6 @@ enum class RiskLevel { safe, caution, critical };
 
 inline constexpr std::array allRiskLevels{RiskLevel::safe, RiskLevel::caution, RiskLevel::critical};
 
-/// A colour by its meaning; the screens choose its shade for light and dark.
-enum class RiskColor { green, orange, red };
-
 /// The level as one string ("safe"): its identity and its serialised form.
 std::string_view rawValue(RiskLevel risk);
 
@@ -26,6 +23,7 @@ std::string_view label(RiskLevel risk);
 /// The SF Symbols name of the level's symbol.
 std::string_view icon(RiskLevel risk);
 
-RiskColor color(RiskLevel risk);
+/// The colour as one word ("green"); the screens choose its shade for light and dark.
+std::string_view color(RiskLevel risk);
 
 } // namespace drossbin

@@ -4,7 +4,7 @@ import QtQuick
 SymbolButton {
     id: button
 
-    required property string riskName
+    required property string riskColor
     required property string riskLabel
     required property string riskSymbol
     required property string note
@@ -16,7 +16,7 @@ SymbolButton {
         button.reasonBefore = button.focusReason;
         button.popover = content.createObject(button, {
             opener: button,
-            riskName: button.riskName,
+            riskColor: button.riskColor,
             riskLabel: button.riskLabel,
             riskSymbol: button.riskSymbol,
             note: button.note

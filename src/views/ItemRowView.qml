@@ -10,7 +10,7 @@ T.ItemDelegate {
     required property string symbol
     required property bool hasNote
     required property string note
-    required property string riskName
+    required property string riskColor
     required property string riskLabel
     required property string riskSymbol
     required property string dateText
@@ -122,7 +122,7 @@ T.ItemDelegate {
 
                 visible: row.hasNote
                 height: parent.height
-                riskName: row.riskName
+                riskColor: row.riskColor
                 riskLabel: row.riskLabel
                 riskSymbol: row.riskSymbol
                 note: row.note
@@ -131,7 +131,7 @@ T.ItemDelegate {
 
             RiskBadge {
                 anchors.verticalCenter: parent.verticalCenter
-                riskName: row.riskName
+                riskColor: row.riskColor
                 riskLabel: row.riskLabel
                 riskSymbol: row.riskSymbol
             }

@@ -4,14 +4,14 @@ import QtQuick
 Rectangle {
     id: badge
 
-    required property string riskName
+    required property string riskColor
     required property string riskLabel
     required property string riskSymbol
 
     implicitWidth: content.implicitWidth + 16
     implicitHeight: content.implicitHeight + 6
     radius: height / 2
-    color: Theme.tinted(Theme.riskColor(badge.riskName), 0.15)
+    color: Theme.tinted(Theme.shade(badge.riskColor), 0.15)
 
     Row {
         id: content
@@ -22,14 +22,14 @@ Rectangle {
         Symbol {
             anchors.verticalCenter: parent.verticalCenter
             name: badge.riskSymbol
-            color: Theme.riskColor(badge.riskName)
+            color: Theme.shade(badge.riskColor)
             size: Theme.caption2
         }
 
         PlainLabel {
             anchors.verticalCenter: parent.verticalCenter
             text: badge.riskLabel
-            color: Theme.riskColor(badge.riskName)
+            color: Theme.shade(badge.riskColor)
             font.pixelSize: Theme.caption2
         }
     }

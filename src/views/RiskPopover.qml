@@ -6,7 +6,7 @@ T.Popup {
     id: popover
 
     required property T.Control opener
-    required property string riskName
+    required property string riskColor
     required property string riskLabel
     required property string riskSymbol
     required property string note
@@ -56,7 +56,7 @@ T.Popup {
                 Symbol {
                     anchors.verticalCenter: parent.verticalCenter
                     name: popover.riskSymbol
-                    color: Theme.riskColor(popover.riskName)
+                    color: Theme.shade(popover.riskColor)
                     size: Theme.space16
                 }
 

@@ -7,7 +7,7 @@ Item {
     required property string name
     required property string sizeText
     required property string riskSymbol
-    required property string riskName
+    required property string riskColor
     required property string riskLabel
 
     implicitHeight: 28
@@ -24,7 +24,7 @@ Item {
             verticalCenter: parent.verticalCenter
         }
         name: row.riskSymbol
-        color: Theme.riskColor(row.riskName)
+        color: Theme.shade(row.riskColor)
         size: Theme.body
     }
 

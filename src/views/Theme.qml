@@ -85,8 +85,9 @@ QtObject {
         return theme.animated ? milliseconds : 0;
     }
 
-    function riskColor(riskName: string): color {
-        return riskName === "safe" ? theme.green : riskName === "caution" ? theme.orange : theme.red;
+    /// The shade, here and now, of a colour that the data name by its meaning.
+    function shade(colorWord: string): color {
+        return colorWord === "green" ? theme.green : colorWord === "orange" ? theme.orange : theme.red;
     }
 
     function tinted(color: color, opacity: real): color {

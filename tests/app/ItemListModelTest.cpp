@@ -79,7 +79,7 @@ TEST_F(ItemList, tells_all_about_an_item) {
     EXPECT_EQ(at(0, "symbol"), "trash");
     EXPECT_EQ(at(0, "hasNote"), true);
     EXPECT_EQ(at(0, "note"), "Sign in again.");
-    EXPECT_EQ(at(0, "riskName"), "caution");
+    EXPECT_EQ(at(0, "riskColor"), "orange");
     EXPECT_EQ(at(0, "riskLabel"), "Review First");
     EXPECT_EQ(at(0, "riskSymbol"), "exclamationmark.triangle.fill");
     EXPECT_EQ(at(0, "dateText"), "3 hr. ago");

@@ -60,7 +60,7 @@ TEST_F(SelectedItems, tell_name_size_and_risk) {
           selected(item("c", 0, appData, RiskLevel::critical))});
     EXPECT_EQ(at(0, "name"), "a\\tb");
     EXPECT_EQ(at(0, "sizeText"), "4 MB");
-    EXPECT_EQ(at(0, "riskName"), "caution");
+    EXPECT_EQ(at(0, "riskColor"), "orange");
     EXPECT_EQ(at(0, "riskLabel"), "Review First");
     EXPECT_EQ(at(0, "riskSymbol"), "exclamationmark.triangle.fill");
     EXPECT_EQ(at(1, "riskSymbol"), "checkmark.circle.fill");

@@ -18,9 +18,9 @@ TEST(RiskLevel, is_presented_by_label_symbol_and_colour) {
     EXPECT_EQ(presentation(RiskLevel::caution),
               "caution, Review First, exclamationmark.triangle.fill");
     EXPECT_EQ(presentation(RiskLevel::critical), "critical, Protected, xmark.octagon.fill");
-    EXPECT_EQ(color(RiskLevel::safe), RiskColor::green);
-    EXPECT_EQ(color(RiskLevel::caution), RiskColor::orange);
-    EXPECT_EQ(color(RiskLevel::critical), RiskColor::red);
+    EXPECT_EQ(color(RiskLevel::safe), "green");
+    EXPECT_EQ(color(RiskLevel::caution), "orange");
+    EXPECT_EQ(color(RiskLevel::critical), "red");
 }
 
 TEST(RiskLevel, decodes_what_it_encodes) {

@@ -65,7 +65,7 @@ TestCase {
             symbol: "shippingbox",
             hasNote: index % 2 === 0,
             note: "note " + index,
-            riskName: isProtected ? "critical" : "safe",
+            riskColor: isProtected ? "red" : "green",
             riskLabel: isProtected ? "Protected" : "Safe to Clear",
             riskSymbol: isProtected ? "xmark.octagon.fill" : "checkmark.circle.fill",
             dateText: "4 wk. ago",

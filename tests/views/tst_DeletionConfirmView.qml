@@ -23,21 +23,21 @@ TestCase {
         ListElement {
             name: "com.google.Chrome"
             sizeText: "1.1 GB"
-            riskName: "safe"
+            riskColor: "green"
             riskLabel: "Safe to Clear"
             riskSymbol: "checkmark.circle.fill"
         }
         ListElement {
             name: "<h1>x</h1>"
             sizeText: "888 MB"
-            riskName: "caution"
+            riskColor: "orange"
             riskLabel: "Review First"
             riskSymbol: "exclamationmark.triangle.fill"
         }
         ListElement {
             name: "Keychains"
             sizeText: "1 byte"
-            riskName: "critical"
+            riskColor: "red"
             riskLabel: "Protected"
             riskSymbol: "xmark.octagon.fill"
         }
@@ -68,7 +68,7 @@ TestCase {
 
     function initTestCase() {
         for (let index = 0; index < 1000; ++index)
-            many.append({ name: "item " + index, sizeText: "1 KB", riskName: "safe", riskLabel: "Safe to Clear", riskSymbol: "checkmark.circle.fill" });
+            many.append({ name: "item " + index, sizeText: "1 KB", riskColor: "green", riskLabel: "Safe to Clear", riskSymbol: "checkmark.circle.fill" });
     }
 
     function init() {

@@ -26,7 +26,7 @@ TestCase {
             symbol: "shippingbox"
             hasNote: true
             note: "Downloaded again when it is needed."
-            riskName: "safe"
+            riskColor: "green"
             riskLabel: "Safe to Clear"
             riskSymbol: "checkmark.circle.fill"
             dateText: "4 wk. ago"
@@ -154,7 +154,7 @@ TestCase {
     }
 
     function test_protected_it_is_dimmed_and_does_not_react() {
-        const row = make({ isProtected: true, riskName: "critical", riskLabel: "Protected", riskSymbol: "xmark.octagon.fill" });
+        const row = make({ isProtected: true, riskColor: "red", riskLabel: "Protected", riskSymbol: "xmark.octagon.fill" });
         compare(row.opacity, 0.4);
         compare(row.enabled, false);
         mouseClick(checkBox(row));

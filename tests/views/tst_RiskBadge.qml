@@ -19,7 +19,7 @@ TestCase {
         id: badge
 
         RiskBadge {
-            riskName: "safe"
+            riskColor: "green"
             riskLabel: "Safe to Clear"
             riskSymbol: "checkmark.circle.fill"
         }
@@ -38,7 +38,7 @@ TestCase {
     }
 
     function test_shows_symbol_and_label_in_the_colour_of_the_risk(data) {
-        const item = createTemporaryObject(badge, test, { riskName: data.tag, riskLabel: data.label, riskSymbol: data.symbol });
+        const item = createTemporaryObject(badge, test, { riskColor: data.color, riskLabel: data.label, riskSymbol: data.symbol });
         const color = Theme[data.color];
         compare(find.texts(item), [data.label]);
         verify(Qt.colorEqual(find.label(item, data.label).color, color));

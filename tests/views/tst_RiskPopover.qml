@@ -21,7 +21,7 @@ TestCase {
         InfoButton {
             x: 600
             y: 300
-            riskName: "caution"
+            riskColor: "orange"
             riskLabel: "Review First"
             riskSymbol: "exclamationmark.triangle.fill"
             note: "May hold <b>sign-ins</b>."
