@@ -11,9 +11,20 @@
 
 namespace drossbin {
 
+namespace {
+
+#ifdef Q_OS_MACOS
+constexpr bool hasPortals = false;
+#else
+constexpr bool hasPortals = true;
+#endif
+
+} // namespace
+
 void MotionPreference::ask() {
     // Without a session bus Qt would try to start one.
-    if (!std::exchange(m_wasAsked, true) && qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")) {
+    const bool hasBus = hasPortals && qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS");
+    if (!std::exchange(m_wasAsked, true) && hasBus) {
         askPortal();
     }
 }

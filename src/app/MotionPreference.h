@@ -8,8 +8,9 @@
 
 namespace drossbin {
 
-/// Whether the user asked the desktop for less motion. Taken as no until the desktop has
-/// answered, and where there is none to ask.
+/// Whether the user asked the desktop for less motion, as far as its portal tells. Taken as no
+/// until the portal has answered, and where there is none to ask, as on macOS: what the user asked
+/// for there is not known here.
 class MotionPreference : public QObject {
     Q_OBJECT
 
