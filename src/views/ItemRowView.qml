@@ -143,6 +143,8 @@ T.ItemDelegate {
                 color: Theme.secondary
                 font.pixelSize: Theme.caption
                 horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
+                maximumLineCount: 2
                 elide: Text.ElideRight
             }
 

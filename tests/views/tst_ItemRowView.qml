@@ -97,6 +97,27 @@ TestCase {
         compare(rightOf(find.label(row, "1.1 GB"), row), row.width - 8);
     }
 
+    function test_the_longest_dates_fit_their_column_and_the_row_data() {
+        return [
+            { tag: "English", text: "100 min. ago" },
+            { tag: "German", text: "vor 11 Monaten" },
+            { tag: "French", text: "il y a 11 sem." },
+            { tag: "Arabic", text: "قبل دقيقة واحدة" },
+            { tag: "Arabic with a number", text: "قبل ١١ أسبوعًا" },
+            { tag: "Japanese", text: "100 か月前" }
+        ];
+    }
+
+    function test_the_longest_dates_fit_their_column_and_the_row(data) {
+        const row = make({ dateText: data.text });
+        const date = find.label(row, data.text);
+        compare(date.width, 70);
+        compare(date.truncated, false);
+        verify(date.contentWidth <= 70);
+        verify(date.height <= row.height - row.topPadding - row.bottomPadding);
+        compare(row.height, make().height);
+    }
+
     function test_is_padded_4_above_and_below() {
         const row = make();
         const name = find.label(row, "npm cache");
