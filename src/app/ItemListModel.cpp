@@ -2,6 +2,7 @@
 
 #include "app/Texts.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace drossbin {
@@ -72,10 +73,27 @@ void ItemListModel::refresh(const ItemSurvey& survey) {
         announceChangesSince(std::exchange(m_isSelected, m_rows.selection()));
         return;
     }
-    beginResetModel();
+    const int last = m_rows.count();
+    const int next = static_cast<int>(survey.rows.size());
+    if (next < last) {
+        beginRemoveRows({}, next, last - 1);
+        replaceRows(survey);
+        endRemoveRows();
+    } else if (next > last) {
+        beginInsertRows({}, last, next - 1);
+        replaceRows(survey);
+        endInsertRows();
+    } else {
+        replaceRows(survey);
+    }
+    if (const int kept = std::min(last, next); kept > 0) {
+        emit dataChanged(index(0), index(kept - 1));
+    }
+}
+
+void ItemListModel::replaceRows(const ItemSurvey& survey) {
     m_rows.replace(survey.list, survey.rows);
     m_isSelected = m_rows.selection();
-    endResetModel();
 }
 
 void ItemListModel::toggle(int row) {

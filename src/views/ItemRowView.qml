@@ -40,6 +40,7 @@ T.ItemDelegate {
     enabled: !row.isProtected
     opacity: row.isProtected ? 0.4 : 1.0
     focusPolicy: Qt.NoFocus
+    onPathChanged: row.closeInfo() // it was about another item
     Keys.onSpacePressed: row.press()
     activeFocusOnTab: row.isCurrent || row.activeFocus
     Accessible.role: Accessible.ListItem

@@ -192,13 +192,32 @@ TEST_F(ItemList, follows_the_search_text_in_name_and_path) {
 
 TEST_F(ItemList, keeps_its_rows_when_the_search_text_changes_none_of_them) {
     show({item("Alpha", 9), item("Beta", 8)});
-    reset.clear();
+    changed.clear();
     view.setSearchText("ada");
     test::turn();
-    EXPECT_EQ(reset.count(), 0);
+    EXPECT_EQ(changed.count(), 0);
     view.setSearchText("beta");
     test::turn();
-    EXPECT_EQ(reset.count(), 1);
+    EXPECT_THAT(changes(changed, model), ElementsAre("0-0:"));
+}
+
+TEST_F(ItemList, gives_its_rows_other_items_and_drops_or_adds_the_rest) {
+    show({item("a", 9), item("b", 8), item("c", 7), item("d", 6, logFiles)});
+    const QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
+    const QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    changed.clear();
+    view.setSelectedCategory(static_cast<int>(logFiles));
+    test::turn();
+    EXPECT_THAT(names(), ElementsAre("d"));
+    EXPECT_EQ(removed.count(), 1);
+    EXPECT_EQ(removed.value(0).mid(1), QList<QVariant>({1, 2}));
+    view.setSelectedCategory(static_cast<int>(programCaches));
+    test::turn();
+    EXPECT_THAT(names(), ElementsAre("a", "b", "c"));
+    EXPECT_EQ(inserted.count(), 1);
+    EXPECT_EQ(inserted.value(0).mid(1), QList<QVariant>({1, 2}));
+    EXPECT_THAT(changes(changed, model), ElementsAre("0-0:", "0-0:"));
+    EXPECT_EQ(reset.count(), 0);
 }
 
 TEST_F(ItemList, toggles_the_right_item_of_a_filtered_list) {

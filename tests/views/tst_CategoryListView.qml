@@ -355,6 +355,52 @@ TestCase {
         compare(view.log.length, 0);
     }
 
+    function test_a_popover_closes_when_its_row_shows_another_item() {
+        find.button(row(0), "Information").clicked();
+        compare(row(0).showInfo, true);
+        items.setProperty(0, "name", "the same item");
+        compare(row(0).showInfo, true);
+        items.setProperty(0, "path", "/home/ada/another");
+        tryCompare(row(0), "showInfo", false);
+    }
+
+    function test_rows_that_are_gone_are_not_reached() {
+        const last = row(4);
+        items.remove(1, items.count - 1);
+        tryVerify(() => !last.visible);
+        compare(find.seen(list()).filter(item => item instanceof ItemRowView).length, 1);
+    }
+
+    function rowNames(): var {
+        return find.seen(list()).filter(item => item instanceof ItemRowView).map(item => item.name);
+    }
+
+    function test_rows_are_told_in_their_order() {
+        const all = rowNames();
+        const taken = [];
+        for (let index = 1; index < items.count; ++index)
+            taken.push(item(index));
+        items.remove(1, items.count - 1);
+        tryVerify(() => rowNames().length === 1);
+        taken.forEach(one => items.append(one));
+        tryVerify(() => rowNames().length === all.length);
+        compare(rowNames().join("|"), all.join("|"));
+    }
+
+    function test_rows_scrolled_to_from_below_are_told_in_their_order() {
+        const all = rowNames();
+        list().positionViewAtEnd();
+        waitForRendering(view, 100);
+        for (let y = list().contentY; y > 0; y -= 30) {
+            list().contentY = y;
+            list().forceLayout();
+        }
+        list().positionViewAtBeginning();
+        waitForRendering(view, 100);
+        const top = rowNames().slice(0, 5);
+        compare(top.join("|"), all.slice(0, 5).join("|"));
+    }
+
     function test_builds_only_the_rows_in_view() {
         const count = list().contentItem.children.length;
         for (let index = 50; index < 2000; ++index)

@@ -1,0 +1,13 @@
+#include "views/Siblings.h"
+
+namespace drossbin {
+
+void Siblings::put(QQuickItem* item, const QQuickItem* previous, const QQuickItem* next) {
+    if (previous != nullptr && previous != item) {
+        item->stackAfter(previous);
+    } else if (next != nullptr && next != item) {
+        item->stackBefore(next);
+    }
+}
+
+} // namespace drossbin
