@@ -9,10 +9,10 @@ using namespace drossbin;
 
 namespace {
 
-constexpr std::array names{"Editor", "Google Chrome", "Sketchpad", "Notebook", "Café", "Mail"};
+constexpr std::array names{"Editor", "Google Chrome", "Sketchpad", "Notebook", "Mail"};
 
 /// Four in ten are program caches, one in ten is protected and two are to be looked at: what is
-/// selected together is never one range of rows.
+/// selected together is never one range of rows. One in a hundred has a name beyond ASCII.
 DiskItem item(std::size_t number, std::size_t count) {
     constexpr std::array categories{DiskCategory::programCaches, DiskCategory::packageCaches,
                                     DiskCategory::appData,       DiskCategory::programCaches,
@@ -23,7 +23,8 @@ DiskItem item(std::size_t number, std::size_t count) {
         RiskLevel::safe, RiskLevel::safe,     RiskLevel::caution, RiskLevel::safe, RiskLevel::safe,
         RiskLevel::safe, RiskLevel::critical, RiskLevel::caution, RiskLevel::safe, RiskLevel::safe};
     DiskItem item;
-    item.name = std::string(names.at(number % names.size())) + " " + std::to_string(number);
+    const char* const name = number % 100 == 0 ? "Café" : names.at(number % names.size());
+    item.name = std::string(name) + " " + std::to_string(number);
     item.path = "/home/ada/Library/Caches/com.example/" + item.name;
     item.size = static_cast<std::int64_t>(count - number) * 4096;
     item.category = categories.at(number % categories.size());
