@@ -33,11 +33,6 @@ class Control:
         return value.get_current_value(), value.get_minimum_value(), value.get_maximum_value()
 
     @property
-    def text(self):
-        interface = self.node.get_text_iface()
-        return interface.get_text(0, interface.get_character_count())
-
-    @property
     def center(self):
         area = self.node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
         return area.x + area.width / 2, area.y + area.height / 2

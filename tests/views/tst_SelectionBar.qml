@@ -95,7 +95,6 @@ TestCase {
         Theme.animated = true;
         compare(Theme.warned, 250);
         bar.hasBrowserData = true;
-        const text = find.label(bar, test.warning) ?? bar.children[0].children[0];
         const panel = bar.children[0].children[0];
         tryVerify(() => panel.opacity > 0 && panel.opacity < 1);
         verify(bar.children[0].implicitHeight < panel.height);
