@@ -94,8 +94,8 @@ FocusScope {
             implicitHeight: input.implicitHeight
             symbol: "xmark.circle.fill"
             symbolSize: Theme.body
-            name: "Clear filter"
-            hint: name
+            label: "Clear filter"
+            hint: label
             onClicked: filter.clear()
         }
     }

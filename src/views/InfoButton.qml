@@ -31,7 +31,7 @@ SymbolButton {
     }
 
     symbol: "info.circle"
-    name: "Information"
+    label: "Information"
     onClicked: if (button.enabled)
         button.open()
 
