@@ -12,10 +12,8 @@ Item {
     visible: warning.reveal > 0
 
     Behavior on reveal {
-        NumberAnimation {
+        EaseOutMotion {
             duration: Theme.warned
-            easing.type: Easing.BezierSpline
-            easing.bezierCurve: Theme.easeOut
         }
     }
 

@@ -31,18 +31,14 @@ Rectangle {
             running: emblem.isPulsing
             onStopped: sign.opacity = 1
 
-            NumberAnimation {
+            EaseInOutMotion {
                 to: 0.45
                 duration: 1000
-                easing.type: Easing.BezierSpline
-                easing.bezierCurve: Theme.easeInOut
             }
 
-            NumberAnimation {
+            EaseInOutMotion {
                 to: 1
                 duration: 1000
-                easing.type: Easing.BezierSpline
-                easing.bezierCurve: Theme.easeInOut
             }
         }
     }

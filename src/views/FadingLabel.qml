@@ -20,7 +20,7 @@ Item {
         motion.restart();
     }
 
-    NumberAnimation {
+    EaseInOutMotion {
         id: motion
 
         target: line
@@ -28,8 +28,6 @@ Item {
         from: 0
         to: 1
         duration: Theme.standard
-        easing.type: Easing.BezierSpline
-        easing.bezierCurve: Theme.easeInOut
     }
 
     PlainLabel {

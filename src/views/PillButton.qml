@@ -20,10 +20,8 @@ PressButton {
     Accessible.description: button.hint
 
     Behavior on scale {
-        NumberAnimation {
+        EaseOutMotion {
             duration: Theme.pressed
-            easing.type: Easing.BezierSpline
-            easing.bezierCurve: Theme.easeOut
         }
     }
 

@@ -41,14 +41,12 @@ Item {
         Accessible.name: ring.name
     }
 
-    NumberAnimation {
+    EaseInOutMotion {
         id: motion
 
         target: arc
         property: "progress"
         duration: Theme.progressed
-        easing.type: Easing.BezierSpline
-        easing.bezierCurve: Theme.easeInOut
     }
 
     Item {

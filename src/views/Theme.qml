@@ -70,10 +70,6 @@ QtObject {
     readonly property int space24: 24
     readonly property int space32: 32
 
-    // Curves: the control points of the ease-out and the ease-in-out
-    readonly property var easeOut: [0, 0, 0.58, 1, 1, 1]
-    readonly property var easeInOut: [0.42, 0, 0.58, 1, 1, 1]
-
     // Durations, in milliseconds
     readonly property int pressed: theme.lasting(150)
     readonly property int progressed: theme.lasting(300)

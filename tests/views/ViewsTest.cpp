@@ -1,13 +1,14 @@
 #include "HeldKey.h"
 #include "HeldSession.h"
+#include "HeldTime.h"
 #include "app/EventLoop.h"
 #include "platform/Locale.h"
 
 #include <QQmlEngine>
 #include <QtQuickTest>
 
-/// Lets the tests import the views from the program's own resources, and gives them keys and
-/// sessions.
+/// Lets the tests import the views from the program's own resources, and gives them keys,
+/// sessions and time.
 class Setup : public QObject {
     Q_OBJECT
 
@@ -21,6 +22,7 @@ class Setup : public QObject {
         engine->addImportPath(QStringLiteral("qrc:/"));
         qmlRegisterType<drossbin::test::HeldKey>("Drossbin.Test", 1, 0, "HeldKey");
         qmlRegisterType<drossbin::test::HeldSession>("Drossbin.Test", 1, 0, "HeldSession");
+        qmlRegisterType<drossbin::test::HeldTime>("Drossbin.Test", 1, 0, "HeldTime");
     }
 };
 

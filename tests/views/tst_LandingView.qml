@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Drossbin.Test
 import Drossbin.Views
 
 TestCase {
@@ -29,10 +30,18 @@ TestCase {
         signalName: "scan"
     }
 
+    HeldTime {
+        id: time
+    }
+
     function init() {
         failOnWarning(/.?/);
         Theme.animated = true;
         mouseMove(test, 1, 1);
+    }
+
+    function cleanup() {
+        time.letGo();
     }
 
     function make(): LandingView {
@@ -67,10 +76,14 @@ TestCase {
     }
 
     function test_emblem_pulses_while_it_is_seen() {
+        time.hold();
         const view = make();
         tryCompare(emblemOf(view), "isPulsing", true);
         const symbol = finder.symbol(view, "sparkle.magnifyingglass");
-        tryVerify(() => symbol.opacity < 0.9);
+        for (const opacity of [0.725, 0.45, 0.725, 1, 0.725]) {
+            time.pass(500);
+            fuzzyCompare(symbol.opacity, opacity, 1e-3);
+        }
     }
 
     function test_emblem_rests_while_it_is_not_seen() {
@@ -118,15 +131,24 @@ TestCase {
         compare(button.width, button.implicitContentWidth + 112);
     }
 
-    function test_button_grows_to_103_percent_under_the_pointer() {
+    function test_button_springs_to_103_percent_under_the_pointer() {
+        time.hold();
         const button = scanButton(make());
         const frame = button.parent;
         compare(frame.scale, 1);
-        mouseMove(button, button.width / 2, button.height / 2);
-        tryCompare(frame, "scale", 1.03);
         compare(frame.transformOrigin, Item.Center);
+        time.pass(0);
+        mouseMove(button, button.width / 2, button.height / 2);
+        time.pass(75);
+        fuzzyCompare(frame.scale, 1 + 0.03 * 0.5174, 1e-4);
+        time.pass(225);
+        fuzzyCompare(frame.scale, 1 + 0.03 * 1.0084, 1e-4);
+        verify(frame.scale > 1.03);
+        time.pass(133);
+        compare(frame.scale, 1.03);
         mouseMove(test, 1, 1);
-        tryCompare(frame, "scale", 1);
+        time.pass(433);
+        compare(frame.scale, 1);
     }
 
     function test_a_click_asks_for_a_scan() {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Drossbin.Test
 import Drossbin.Views
 
 TestCase {
@@ -21,6 +22,10 @@ TestCase {
         }
     }
 
+    HeldTime {
+        id: time
+    }
+
     SignalSpy {
         id: clicks
 
@@ -31,6 +36,10 @@ TestCase {
         failOnWarning(/.?/);
         Theme.dark = false;
         Theme.animated = true;
+    }
+
+    function cleanup() {
+        time.letGo();
     }
 
     function make(properties: var): PillButton {
@@ -110,14 +119,24 @@ TestCase {
         mouseRelease(button);
     }
 
-    function test_shrinks_to_95_percent_about_its_centre_in_150_milliseconds() {
-        const button = make();
-        mousePress(button);
-        tryCompare(button, "scale", 0.95);
+    function test_shrinks_to_95_percent_about_its_centre_in_150_milliseconds_data() {
+        return ["primary", "secondary", "danger"].map(variant => ({ tag: variant }));
+    }
+
+    function test_shrinks_to_95_percent_about_its_centre_in_150_milliseconds(data) {
+        const button = make({ variant: data.tag });
         compare(button.transformOrigin, Item.Center);
+        time.hold();
+        mousePress(button);
+        time.pass(75);
+        fuzzyCompare(button.scale, 1 - 0.05 * 0.6848, 1e-5);
+        time.pass(75);
+        compare(button.scale, 0.95);
         mouseRelease(button);
-        tryCompare(button, "scale", 1);
-        compare(Theme.pressed, 150);
+        time.pass(75);
+        fuzzyCompare(button.scale, 0.95 + 0.05 * 0.6848, 1e-5);
+        time.pass(75);
+        compare(button.scale, 1);
     }
 
     function test_shrinks_at_once_with_reduced_motion() {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Drossbin.Test
 import Drossbin.Views
 
 TestCase {
@@ -24,10 +25,18 @@ TestCase {
         }
     }
 
+    HeldTime {
+        id: time
+    }
+
     function init() {
         failOnWarning(/.?/);
         Theme.dark = false;
         Theme.animated = false;
+    }
+
+    function cleanup() {
+        time.letGo();
     }
 
     function make(progress: real): ProgressRing {
@@ -85,14 +94,20 @@ TestCase {
         verify(isBlue(colorAt(make(1.5), 3, 70)));
     }
 
-    function test_growth_lasts_300_milliseconds() {
+    function test_growth_eases_in_and_out_in_300_milliseconds() {
         Theme.animated = true;
-        const made = make(0.2);
+        const made = make(0);
         const arc = made.children[0];
+        time.hold();
         made.progress = 1;
-        verify(arc.progress < 0.5);
-        tryCompare(arc, "progress", 1);
-        compare(Theme.progressed, 300);
+        time.pass(75);
+        fuzzyCompare(arc.progress, 0.129, 1e-3);
+        time.pass(75);
+        fuzzyCompare(arc.progress, 0.5, 1e-3);
+        time.pass(149);
+        verify(arc.progress < 1);
+        time.pass(1);
+        compare(arc.progress, 1);
     }
 
     function test_a_new_run_starts_empty_at_once() {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Drossbin.Test
 import Drossbin.Views
 
 TestCase {
@@ -28,9 +29,17 @@ TestCase {
         }
     }
 
+    HeldTime {
+        id: time
+    }
+
     function init() {
         failOnWarning(/.?/);
         Theme.animated = true;
+    }
+
+    function cleanup() {
+        time.letGo();
     }
 
     function make(): ScanProgressView {
@@ -89,14 +98,38 @@ TestCase {
     }
 
     function test_task_fades_over_into_the_next() {
+        time.hold();
         const view = make();
         const task = finder.labels(view)[3];
-        tryCompare(task, "turn", 1);
+        time.pass(350);
         view.currentTask = "Scanning logs...";
-        compare(task.turn, 0);
         compare(task.Accessible.name, "Scanning logs...");
-        tryCompare(task, "turn", 1);
-        compare(Theme.standard, 350);
+        const [arriving, leaving] = [task.children[0], task.children[1]];
+        compare([arriving.text, leaving.text], ["Scanning logs...", "Scanning program caches..."]);
+        time.pass(35);
+        fuzzyCompare(arriving.opacity, 0.0197, 1e-3);
+        fuzzyCompare(leaving.opacity, 1 - 0.0197, 1e-3);
+        time.pass(140);
+        fuzzyCompare(arriving.opacity, 0.5, 1e-3);
+        time.pass(175);
+        compare(arriving.opacity, 1);
+        compare(leaving.visible, false);
+    }
+
+    function test_amount_rolls_like_a_spring() {
+        time.hold();
+        const view = make();
+        const amount = finder.labels(view)[0];
+        verify(amount instanceof RollingText);
+        const cells = amount.children[0].children;
+        time.pass(1000);
+        view.bytesFoundText = "41 GB";
+        time.pass(75);
+        compare(cells[0].turn, 1);
+        fuzzyCompare(cells[1].turn, 0.5174, 1e-3);
+        compare([cells[1].leaving, cells[1].shown], ["0", "1"]);
+        time.pass(358);
+        compare(cells[1].turn, 1);
     }
 
     function test_tip_is_at_most_440_wide_and_24_above_the_bottom() {

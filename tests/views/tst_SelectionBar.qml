@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Drossbin.Test
 import Drossbin.Views
 
 TestCase {
@@ -30,12 +31,20 @@ TestCase {
         onDeletePressed: bar.log = bar.log.concat(["delete"])
     }
 
+    HeldTime {
+        id: time
+    }
+
     function init() {
         failOnWarning(/.?/);
         Theme.animated = false;
         bar.hasBrowserData = false;
         bar.log = [];
         waitForRendering(bar, 100);
+    }
+
+    function cleanup() {
+        time.letGo();
     }
 
     function test_shows_the_summary_and_two_buttons() {
@@ -93,15 +102,22 @@ TestCase {
 
     function test_warning_comes_in_from_below_and_fades_in_a_quarter_second() {
         Theme.animated = true;
-        compare(Theme.warned, 250);
+        const warning = bar.children[0];
+        const panel = warning.children[0];
+        time.hold();
         bar.hasBrowserData = true;
-        const panel = bar.children[0].children[0];
-        tryVerify(() => panel.opacity > 0 && panel.opacity < 1);
-        verify(bar.children[0].implicitHeight < panel.height);
-        tryCompare(panel, "opacity", 1);
-        compare(bar.children[0].implicitHeight, panel.height);
+        time.pass(125);
+        fuzzyCompare(panel.opacity, 0.6848, 1e-3);
+        compare(warning.implicitHeight, Math.round(panel.height * panel.opacity));
+        time.pass(125);
+        compare(panel.opacity, 1);
+        compare(warning.implicitHeight, panel.height);
         bar.hasBrowserData = false;
-        tryVerify(() => panel.opacity > 0 && panel.opacity < 1);
-        tryCompare(bar.children[0], "visible", false);
+        time.pass(125);
+        fuzzyCompare(panel.opacity, 1 - 0.6848, 1e-3);
+        time.pass(124);
+        compare(warning.visible, true);
+        time.pass(1);
+        compare(warning.visible, false);
     }
 }
