@@ -119,6 +119,7 @@ TestCase {
 
     function test_as_many_columns_as_fit_at_200_data() {
         return [
+            { tag: "never fewer than one", width: 120, columns: 1 },
             { tag: "one", width: 240, columns: 1 },
             { tag: "just not two", width: 455, columns: 1 },
             { tag: "two", width: 456, columns: 2 },
@@ -133,7 +134,7 @@ TestCase {
         view.width = data.width;
         waitForRendering(view);
         compare(columns(view), data.columns);
-        verify(cards(view).every(card => card.width >= 200));
+        verify(cards(view).every(card => card.width >= Math.min(200, data.width - 40)));
     }
 
     function test_cards_stand_16_apart_and_fill_the_width() {
