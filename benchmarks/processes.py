@@ -7,18 +7,26 @@ import pathlib
 
 def memory(process):
     """MiB, with each page that others have too counted in part."""
-    return sum(_share(member) for member in _family(process)) / 1024
+    return _sum(_share, process) / 1024
 
 
 def processor_time(process):
     """Milliseconds that its threads have run."""
-    return sum(_nanoseconds(member) for member in _family(process)) / 1e6
+    return _sum(_nanoseconds, process) / 1e6
+
+
+def _sum(figure, process):
+    total = figure(process)
+    for member in _family(process) - {process}:
+        with contextlib.suppress(OSError):  # what it started may end while we look
+            total += figure(member)
+    return total
 
 
 def _family(process):
     parents = {}
     for name in filter(str.isdigit, os.listdir("/proc")):
-        with contextlib.suppress(OSError):  # it may end while we look
+        with contextlib.suppress(OSError):  # gone by now
             stat = pathlib.Path("/proc", name, "stat").read_text()
             parents[int(name)] = int(stat.rpartition(")")[2].split()[1])
     family = {process}
