@@ -44,22 +44,16 @@ Column {
         radius: 4
         color: Theme.quaternary
 
-        Rectangle {
-            anchors.left: parent.left
+        MeterBar {
             width: meter.barWidth(meter.foundShare)
-            height: parent.height
-            radius: 4
             color: Theme.tinted(Theme.blue, 0.2)
         }
 
-        Rectangle {
+        MeterBar {
             property real share: meter.selectedShare
 
-            anchors.left: parent.left
             visible: meter.isReclaiming
             width: meter.barWidth(share)
-            height: parent.height
-            radius: 4
             color: Theme.blue
 
             Behavior on share {

@@ -41,11 +41,11 @@ TestCase {
         return meter.children[1];
     }
 
-    function found(meter: StorageMeter): Rectangle {
+    function found(meter: StorageMeter): MeterBar {
         return track(meter).children[0];
     }
 
-    function selected(meter: StorageMeter): Rectangle {
+    function selected(meter: StorageMeter): MeterBar {
         return track(meter).children[1];
     }
 
@@ -98,6 +98,28 @@ TestCase {
 
     function test_more_than_the_disk_is_not_cut_off() {
         compare(found(make({ foundShare: 1.5 })).width, 300);
+    }
+
+    function test_bars_of_more_than_the_disk_fill_the_track_and_no_more_data() {
+        return [
+            { tag: "twice the disk", share: 2, mirrored: false },
+            { tag: "as much as can be counted", share: 4e7, mirrored: false },
+            { tag: "twice the disk, right to left", share: 2, mirrored: true },
+            { tag: "as much as can be counted, right to left", share: 4e7, mirrored: true }
+        ];
+    }
+
+    function test_bars_of_more_than_the_disk_fill_the_track_and_no_more(data) {
+        const meter = make({ x: 100, isReclaiming: true, foundShare: data.share, selectedShare: data.share });
+        meter.LayoutMirroring.enabled = data.mirrored;
+        meter.LayoutMirroring.childrenInherit = true;
+        waitForRendering(meter);
+        const picture = grabImage(test);
+        const y = track(meter).mapToItem(test, 0, 4).y;
+        for (const x of [101, 200, 298])
+            verify(Qt.colorEqual(picture.pixel(x, y), Theme.blue), `inside, at ${x}`);
+        for (const x of [0, 98, 301, 399])
+            verify(Qt.colorEqual(picture.pixel(x, y), "white"), `outside, at ${x}`);
     }
 
     function test_bars_follow_the_width_at_once() {
