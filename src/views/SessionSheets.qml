@@ -1,11 +1,28 @@
 import QtQuick
 import Drossbin.App
 
-/// The three sheets around a deletion, each up while its part of the state says so.
+/// The three sheets around a deletion, each up while its part of the state says so, and the one
+/// dim that stays below them while one follows another.
 Item {
     id: sheets
 
     required property ContentView content
+    readonly property bool isAnyShown: sheets.content.showConfirmation || sheets.content.isDeleting || sheets.content.showDeletionComplete
+
+    Rectangle {
+        parent: sheets.Window.contentItem
+        anchors.fill: parent
+        z: 1
+        color: Theme.dim
+        opacity: sheets.isAnyShown ? 1 : 0
+        visible: opacity > 0
+
+        Behavior on opacity {
+            EaseOutMotion {
+                duration: Theme.dimmed
+            }
+        }
+    }
 
     Sheet {
         shown: sheets.content.showConfirmation

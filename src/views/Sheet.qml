@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 
-/// A modal sheet that comes down over the dimmed window and leaves again. It holds the focus while
+/// A modal sheet that comes down over the window and leaves upwards again. It holds the focus while
 /// it is up and gives it back. Only its owner closes it, by `shown`; Escape is passed on.
 T.Popup {
     id: sheet
@@ -12,9 +12,10 @@ T.Popup {
     required property string name
     /// What a screen reader says after the name, if anything.
     property string description: ""
-    readonly property int restingY: Math.round((sheet.parent.height - sheet.height) / 2)
-    /// How far above its place it still is.
-    property real drop: 0
+    /// How much of the way it is away: at 1 it stands right above the window's edge. (Not by `y`:
+    /// Qt makes a popup lower where it would reach over the edge.)
+    property real away: 0
+    readonly property real rise: Math.round(sheet.away * (sheet.y + sheet.height))
     property T.Control focusedBefore: null
     property bool ringedBefore: false
 
@@ -22,10 +23,12 @@ T.Popup {
 
     parent: T.Overlay.overlay
     x: Math.round((sheet.parent.width - sheet.width) / 2)
-    y: sheet.restingY - sheet.drop
+    y: Math.round((sheet.parent.height - sheet.height) / 2)
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     modal: true
+    // One dim lies below all sheets: each its own would flash where one follows another.
+    dim: false
     focus: true
     closePolicy: T.Popup.NoAutoClose
     visible: sheet.shown
@@ -42,6 +45,7 @@ T.Popup {
     contentItem: FocusScope {
         implicitWidth: childrenRect.width
         implicitHeight: childrenRect.height
+        transform: Translate { y: -sheet.rise }
         focus: true
         // A popup is no child of the window's mirrored content.
         LayoutMirroring.enabled: Theme.mirrored
@@ -53,42 +57,26 @@ T.Popup {
     }
 
     background: Rectangle {
+        transform: Translate { y: -sheet.rise }
         color: Theme.sheet
         radius: 12
         border.width: 1
         border.color: Theme.outline
     }
 
-    T.Overlay.modal: Rectangle {
-        color: Theme.dim
-
-        Behavior on opacity {
-            NumberAnimation {
-                duration: Theme.sprung
-            }
-        }
-    }
-
     enter: Transition {
         SpringMotion {
-            property: "drop"
-            from: 64
+            property: "away"
+            from: 1
             to: 0
-        }
-
-        NumberAnimation {
-            property: "opacity"
-            from: 0
-            to: 1
-            duration: Theme.pressed
         }
     }
 
     exit: Transition {
-        NumberAnimation {
-            property: "opacity"
-            to: 0
-            duration: Theme.pressed
+        EaseInOutMotion {
+            property: "away"
+            to: 1
+            duration: Theme.left
         }
     }
 }

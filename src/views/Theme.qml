@@ -73,7 +73,9 @@ QtObject {
     // Durations, in milliseconds
     readonly property int pressed: theme.lasting(150)
     readonly property int progressed: theme.lasting(300)
+    readonly property int left: theme.lasting(200)
     readonly property int warned: theme.lasting(250)
+    readonly property int dimmed: theme.lasting(250)
     readonly property int standard: theme.lasting(350)
     readonly property int sprung: theme.lasting(Spring.duration)
 

@@ -81,6 +81,42 @@ Item {
                 return content;
             }
 
+            function dim(): Rectangle {
+                return Array.from(host.contentItem.parent.children).find(child => child.color !== undefined);
+            }
+
+            function test_dim_covers_the_window_while_a_sheet_is_up() {
+                const content = make();
+                compare(dim().visible, false);
+                content.requestDeletion();
+                open("Delete 15 items?");
+                compare(dim().opacity, 1);
+                verify(Qt.colorEqual(dim().color, Theme.dim));
+                compare(dim().width, 900);
+                compare(dim().height, 650);
+                keyClick(Qt.Key_Escape);
+                tryCompare(dim(), "visible", false);
+            }
+
+            function test_dim_stays_while_one_sheet_follows_another() {
+                Theme.animated = true;
+                const content = make();
+                content.requestDeletion();
+                open("Delete 15 items?");
+                tryCompare(dim(), "opacity", 1);
+                let brightest = 1;
+                dim().opacityChanged.connect(() => brightest = Math.min(brightest, dim().opacity));
+                content.confirmDeletion();
+                open("Deleting files...");
+                content.finish();
+                open("Cleanup Complete!");
+                closed("Deleting files...");
+                compare(brightest, 1);
+                content.dismissCompletion();
+                tryCompare(dim(), "visible", false);
+                content.finish();
+            }
+
             function test_no_sheet_is_there_before_it_is_asked_for() {
                 make();
                 for (const name of ["Delete 15 items?", "Deleting files...", "Cleanup Complete!"])
