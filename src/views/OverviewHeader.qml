@@ -1,6 +1,7 @@
 import QtQuick
 
-/// The sum of what was found, and the two buttons that act on all of it.
+/// The sum of what was found, and the two buttons that act on all of it. It is always high enough
+/// for both, so that the first stays under the pointer when the second appears.
 Item {
     id: header
 
@@ -11,7 +12,7 @@ Item {
     signal smartSelect
     signal deletionRequested
 
-    implicitHeight: Math.max(titles.height, buttons.height) + 2 * Theme.space20
+    implicitHeight: Math.max(titles.height, 2 * select.implicitHeight + buttons.spacing) + 2 * Theme.space20
 
     Column {
         id: titles
@@ -45,7 +46,8 @@ Item {
 
         anchors.right: parent.right
         anchors.rightMargin: Theme.space20
-        anchors.verticalCenter: parent.verticalCenter
+        anchors.top: parent.top
+        anchors.topMargin: Theme.space20
         width: Math.max(select.implicitWidth, remove.visible ? remove.implicitWidth : 0)
         spacing: Theme.space8
 

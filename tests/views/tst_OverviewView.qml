@@ -104,6 +104,16 @@ TestCase {
         compare(remove.mapToItem(view, remove.width, 0).x, 640);
     }
 
+    function test_nothing_moves_when_the_second_button_appears() {
+        const view = make("smartSelect");
+        const places = () => ["Smart Select", "Drossbin"].map(name => (finder.button(view, name) ?? finder.label(view, name)).mapToItem(view, 0, 0)).concat(cards(view)[0].mapToItem(view, 0, 0));
+        waitForRendering(view);
+        const before = places();
+        view.hasSelection = true;
+        waitForRendering(view);
+        compare(places(), before);
+    }
+
     function test_tooltip_explains_smart_select() {
         const button = finder.button(make("smartSelect"), "Smart Select");
         mouseMove(button, 20, 20);
