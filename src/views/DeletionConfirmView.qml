@@ -59,7 +59,7 @@ FocusScope {
                 color: Theme.secondary
             }
 
-            FigureLabel {
+            PlainLabel {
                 text: view.selectedSizeText
                 font.weight: Font.DemiBold
             }

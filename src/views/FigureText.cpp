@@ -9,20 +9,23 @@
 namespace drossbin {
 namespace {
 
-/// For each digit, the space after it that makes it as wide as its script's zero.
-QList<QTextLayout::FormatRange> evenDigits(const QString& text, const QFont& font) {
-    const QFontMetricsF metrics(font);
+/// What a digit lacks on each of its sides to be as wide as its script's zero; 0 for all else.
+double lackingBeside(QChar digit, const QFontMetricsF& metrics) {
+    if (!digit.isDigit()) {
+        return 0;
+    }
+    const QChar zero(digit.unicode() - digit.digitValue());
+    return (metrics.horizontalAdvance(zero) - metrics.horizontalAdvance(digit)) / 2;
+}
+
+/// For each character, the space after it that gives digits what they lack on both sides.
+QList<QTextLayout::FormatRange> evenDigits(const QString& text, const QFontMetricsF& metrics) {
     QList<QTextLayout::FormatRange> ranges;
     for (qsizetype at = 0; at < text.size(); ++at) {
-        const QChar digit = text[at];
-        if (!digit.isDigit()) {
-            continue;
-        }
-        const QChar zero(digit.unicode() - digit.digitValue());
+        const double after = at + 1 < text.size() ? lackingBeside(text[at + 1], metrics) : 0;
         QTextCharFormat format;
         format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
-        format.setFontLetterSpacing(metrics.horizontalAdvance(zero) -
-                                    metrics.horizontalAdvance(digit));
+        format.setFontLetterSpacing(lackingBeside(text[at], metrics) + after);
         ranges.append({int(at), 1, format});
     }
     return ranges;
@@ -61,15 +64,17 @@ void FigureText::setColor(const QColor& color) {
 }
 
 void FigureText::layOut() {
-    m_layout.setFormats(evenDigits(m_layout.text(), m_layout.font()));
+    const QString text = m_layout.text();
+    const QFontMetricsF metrics(m_layout.font());
+    const double before = text.isEmpty() ? 0 : lackingBeside(text[0], metrics);
+    m_layout.setFormats(evenDigits(text, metrics));
     m_layout.beginLayout();
     QTextLine line = m_layout.createLine();
     if (line.isValid()) {
-        line.setPosition({0, 0});
+        line.setPosition({before, 0});
     }
     m_layout.endLayout();
-    setImplicitSize(std::ceil(m_layout.maximumWidth()),
-                    std::ceil(QFontMetricsF(m_layout.font()).height()));
+    setImplicitSize(std::ceil(before + m_layout.maximumWidth()), std::ceil(metrics.height()));
     update();
 }
 

@@ -7,6 +7,7 @@ Item {
     required property string text
     required property font font
     required property color color
+    /// How wide a digit's cell is; 0 for as wide as the digit.
     required property real digitWidth
     property string shown: ""
     property string leaving: ""
@@ -19,7 +20,7 @@ Item {
         motion.restart();
     }
 
-    implicitWidth: cell.shown === "" ? 0 : cell.isDigit ? cell.digitWidth : arriving.implicitWidth
+    implicitWidth: cell.shown === "" ? 0 : cell.isDigit && cell.digitWidth > 0 ? cell.digitWidth : arriving.implicitWidth
     implicitHeight: arriving.implicitHeight
     onTextChanged: cell.roll()
     Component.onCompleted: {

@@ -3,12 +3,13 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 /// A number with its unit whose characters roll upwards, each on its own, when they change.
-/// Digits stand in cells of equal width. A text that runs right to left rolls as a whole, because
-/// its letters join and its parts are not in the order of its characters.
+/// Where it is `tabular`, digits stand in cells of equal width. A text that runs right to left rolls
+/// as a whole, because its letters join and its parts are not in the order of its characters.
 Item {
     id: rolling
 
     required property string text
+    property bool tabular: true
     property font font
     property color color: Theme.label
     readonly property list<string> parts: rolling.split(rolling.text)
@@ -43,7 +44,7 @@ Item {
                 text: rolling.parts[index] ?? ""
                 font: rolling.font
                 color: rolling.color
-                digitWidth: metrics.advanceWidth("0")
+                digitWidth: rolling.tabular ? metrics.advanceWidth("0") : 0
             }
         }
     }

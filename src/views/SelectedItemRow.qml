@@ -41,7 +41,7 @@ Item {
         horizontalAlignment: Text.AlignLeft
     }
 
-    FigureLabel {
+    PlainLabel {
         id: size
 
         anchors {

@@ -30,6 +30,7 @@ Column {
         RollingText {
             anchors.left: parent.left
             text: meter.sizeText
+            tabular: false
             color: meter.isReclaiming ? Theme.blue : Theme.label
             font.pixelSize: Theme.title2
             font.weight: Font.Bold

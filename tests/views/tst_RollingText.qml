@@ -80,6 +80,14 @@ TestCase {
         compare(make("111").implicitWidth, make("888").implicitWidth);
     }
 
+    function test_digits_are_as_wide_as_they_are_where_nothing_lines_up() {
+        const item = make("1 8");
+        item.tabular = false;
+        for (const index of [0, 2])
+            compare(cell(item, index).width, cell(item, index).children[0].implicitWidth);
+        verify(make("8").children[0].children[0].digitWidth > 0, "unlike where they line up");
+    }
+
     function test_does_not_roll_with_reduced_motion() {
         Theme.animated = false;
         const item = make("1");
