@@ -25,20 +25,17 @@ T.CheckBox {
     Accessible.onToggleAction: box.clicked()
     Accessible.onPressAction: box.clicked()
 
-    background: Item {
-        FocusRing {
-            visible: box.visualFocus
-            corner: Theme.space4
-            gap: -2
-        }
-    }
-
     contentItem: Item {
         Symbol {
             anchors.centerIn: parent
             name: box.isSelected ? "checkmark.circle.fill" : "circle"
             color: box.isSelected ? Theme.blue : box.hovered ? Theme.label : Theme.secondary
             size: Theme.space16
+
+            FocusRing {
+                visible: box.visualFocus
+                corner: parent.size / 2
+            }
         }
     }
 

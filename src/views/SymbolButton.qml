@@ -14,20 +14,17 @@ PressButton {
     implicitHeight: Theme.space24
     focusPolicy: Qt.TabFocus
 
-    background: Item {
-        FocusRing {
-            visible: button.visualFocus
-            corner: Theme.space4
-            gap: -2
-        }
-    }
-
     contentItem: Item {
         Symbol {
             anchors.centerIn: parent
             name: button.symbol
             color: button.hovered && !button.down ? Theme.label : Theme.secondary
             size: button.symbolSize
+
+            FocusRing {
+                visible: button.visualFocus
+                corner: parent.size / 2
+            }
         }
     }
 

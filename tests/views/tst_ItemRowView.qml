@@ -280,6 +280,20 @@ TestCase {
         compare(make({ isProtected: true }).Accessible.description, "Disabled, /home/user/.npm");
     }
 
+    function test_rings_lie_clear_of_their_symbols() {
+        const row = make();
+        for (const control of [checkBox(row), find.button(row, "Information")]) {
+            control.forceActiveFocus(Qt.TabFocusReason);
+            const ring = find.seen(control).find(item => item.border?.width === 2);
+            const symbol = ring.parent;
+            compare(ring.mapToItem(symbol, 0, 0), Qt.point(-4, -4));
+            compare(ring.width, symbol.width + 8);
+            compare(ring.height, symbol.height + 8);
+            compare(ring.radius, ring.width / 2);
+            verify(ring.mapToItem(row, 0, 0).y >= 2, "inside the row's own ring");
+        }
+    }
+
     function test_information_opens_the_note_and_escape_closes_it() {
         const row = make();
         const information = find.button(row, "Information");
