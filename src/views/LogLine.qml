@@ -1,6 +1,6 @@
 import QtQuick
 
-/// What became of one item. Failures are red.
+/// What became of one item, however long that is: why it failed stands at the end. Failures are red.
 Item {
     id: line
 
@@ -25,8 +25,6 @@ Item {
         color: line.isSuccess ? Theme.label : Theme.red
         font.pixelSize: Theme.caption
         wrapMode: Text.Wrap
-        maximumLineCount: 3
-        elide: Text.ElideRight
         horizontalAlignment: Text.AlignLeft
     }
 }

@@ -115,6 +115,17 @@ TestCase {
         }
     }
 
+    function test_why_an_item_failed_shows_whole_after_a_long_name() {
+        const text = `❌ Failed: ${"a long name ".repeat(20)}: Permission denied`;
+        const model = createTemporaryQmlObject("import QtQuick; ListModel {}", test);
+        model.append({ text: text, isSuccess: false });
+        const line = find.label(make({ log: model }), text);
+        verify(line.lineCount > 3);
+        compare(line.truncated, false);
+        compare(line.height, line.contentHeight);
+        compare(line.parent.height, line.height + 8);
+    }
+
     function test_lines_are_list_items_named_after_what_they_say() {
         const rows = find.seen(list(make())).filter(item => item.Accessible.role === Accessible.ListItem);
         compare(rows.map(row => row.Accessible.name).join("|"), "✅ Deleted: npm cache (1.1 GB)|❌ Failed: <b>x</b>: Permission denied|❌ Failed: <b>x</b>: Permission denied");
