@@ -20,7 +20,9 @@ ListView {
     }
 
     function scrollBy(distance: real): void {
-        rows.contentY = Math.max(rows.originY, Math.min(rows.contentY + distance, rows.originY + rows.contentHeight - rows.height));
+        const top = rows.originY - rows.topMargin;
+        const bottom = rows.originY + rows.contentHeight + rows.bottomMargin - rows.height;
+        rows.contentY = Math.max(top, Math.min(rows.contentY + distance, bottom));
     }
 
     clip: true

@@ -23,9 +23,9 @@ Rectangle {
         id: rows
 
         anchors.fill: parent
-        anchors.topMargin: Theme.space4
-        anchors.bottomMargin: Theme.space4
-        activeFocusOnTab: rows.contentHeight > rows.height
+        topMargin: Theme.space4
+        bottomMargin: Theme.space4
+        activeFocusOnTab: rows.contentHeight + 2 * Theme.space4 > rows.height
         keyNavigationEnabled: false
         Accessible.name: panel.name
         Keys.onUpPressed: rows.scrollBy(-Theme.space32)

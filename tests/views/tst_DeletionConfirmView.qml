@@ -155,6 +155,18 @@ TestCase {
         compare(list(make({ selectedItems: many })).parent.height, 200);
     }
 
+    function test_rows_begin_4_inside_the_panel_and_scroll_to_its_edge() {
+        const rows = list(make({ selectedItems: many }));
+        compare(rows.itemAtIndex(0).mapToItem(rows.parent, 0, 0).y, 4);
+        compare(rows.mapToItem(rows.parent, 0, 0).y, 0);
+        compare(rows.height, rows.parent.height);
+    }
+
+    function test_list_with_room_for_all_its_rows_is_no_stop_of_the_keyboard() {
+        compare(list(make()).activeFocusOnTab, false);
+        compare(list(make({ selectedItems: many })).activeFocusOnTab, true);
+    }
+
     function test_list_builds_only_the_rows_in_view() {
         const view = make({ selectedItems: many });
         verify(list(view).contentItem.children.length < 40);
@@ -188,12 +200,12 @@ TestCase {
         const rows = list(make({ selectedItems: many }));
         rows.forceActiveFocus(Qt.TabFocusReason);
         keyClick(Qt.Key_Up);
-        compare(rows.contentY, 0);
+        compare(rows.contentY, -4);
         keyClick(Qt.Key_Down);
-        compare(rows.contentY, 32);
+        compare(rows.contentY, 28);
         for (let step = 0; step < 1000; ++step)
             keyClick(Qt.Key_Down);
-        compare(rows.contentY, 1000 * 28 - rows.height);
+        compare(rows.contentY, 1000 * 28 + 4 - rows.height);
     }
 
     function test_buttons_are_equally_wide() {
