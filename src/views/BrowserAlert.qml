@@ -6,9 +6,9 @@ Rectangle {
 
     implicitHeight: texts.height + 2 * Theme.space12
     radius: Theme.space8
-    color: Theme.tinted(Theme.orange, 0.08)
+    color: Theme.tinted(Theme.orangeTint, 0.08)
     border.width: 1
-    border.color: Theme.tinted(Theme.orange, 0.5)
+    border.color: Theme.tinted(Theme.orangeTint, 0.5)
 
     Symbol {
         id: symbol

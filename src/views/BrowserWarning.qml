@@ -23,7 +23,7 @@ Item {
         width: parent.width
         height: row.height + 16
         opacity: warning.reveal
-        color: Theme.tinted(Theme.orange, 0.06)
+        color: Theme.tinted(Theme.orangeTint, 0.06)
 
         Row {
             id: row

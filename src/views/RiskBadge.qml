@@ -11,7 +11,7 @@ Rectangle {
     implicitWidth: content.implicitWidth + 16
     implicitHeight: content.implicitHeight + 6
     radius: height / 2
-    color: Theme.tinted(Theme.shade(badge.riskColor), 0.15)
+    color: Theme.tinted(Theme.riskTint(badge.riskColor), 0.15)
 
     Row {
         id: content

@@ -38,6 +38,11 @@ QtObject {
     readonly property color orange: theme.dark ? "#ffa526" : "#954900"
     readonly property color red: theme.dark ? "#ff8077" : "#b8221a"
 
+    // Behind a text of their colour: clear hues, of which little is enough
+    readonly property color greenTint: theme.dark ? theme.green : "#34c759"
+    readonly property color orangeTint: theme.dark ? theme.orange : "#ff9500"
+    readonly property color redTint: theme.dark ? theme.red : "#ff3b30"
+
     // Large symbols: 3:1 is enough there, and a lighter hand is friendlier
     readonly property color symbolGreen: theme.dark ? "#32d74b" : "#209a3e"
     readonly property color symbolOrange: theme.dark ? "#ff9f0a" : "#d86e00"
@@ -86,6 +91,10 @@ QtObject {
     /// The shade, here and now, of a colour that the data name by its meaning.
     function shade(colorWord: string): color {
         return colorWord === "green" ? theme.green : colorWord === "orange" ? theme.orange : theme.red;
+    }
+
+    function riskTint(colorWord: string): color {
+        return colorWord === "green" ? theme.greenTint : colorWord === "orange" ? theme.orangeTint : theme.redTint;
     }
 
     function tinted(color: color, opacity: real): color {

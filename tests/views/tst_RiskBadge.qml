@@ -43,7 +43,7 @@ TestCase {
         compare(find.texts(item), [data.label]);
         verify(Qt.colorEqual(find.label(item, data.label).color, color));
         verify(Qt.colorEqual(find.symbol(item, data.symbol).color, color));
-        verify(Qt.colorEqual(item.color, Qt.rgba(color.r, color.g, color.b, 0.15)));
+        verify(Qt.colorEqual(item.color, Theme.tinted(Theme.riskTint(data.color), 0.15)));
     }
 
     function test_is_a_capsule_padded_8_and_3_around_symbol_and_label_3_apart() {

@@ -96,7 +96,7 @@ TestCase {
         compare(panel.width, bar.width);
         compare(panel.height, text.height + 16);
         compare(panel.opacity, 1);
-        verify(Qt.colorEqual(panel.color, Theme.tinted(Theme.orange, 0.06)));
+        verify(Qt.colorEqual(panel.color, Theme.tinted(Theme.orangeTint, 0.06)));
         compare(text.truncated, false);
     }
 

@@ -24,7 +24,7 @@ TestCase {
         const picked = [Theme.sidebar, Theme.quaternary];
         const selected = [Theme.window, Theme.tinted(Theme.blue, 0.06)];
         const panel = [Theme.sheet, Theme.material];
-        const alert = [Theme.sheet, Theme.tinted(Theme.orange, 0.08)];
+        const alert = [Theme.sheet, Theme.tinted(Theme.orangeTint, 0.08)];
         return [
             { on: "the window", surfaces: [Theme.window], texts: ["label", "secondary", "tertiary", "blue", "orange", "red"] },
             { on: "the sidebar", surfaces: [Theme.sidebar], texts: ["label", "secondary", "blue"] },
@@ -39,7 +39,7 @@ TestCase {
             { on: "a selected row", surfaces: selected, texts: ["label", "secondary", "tertiary"] },
             { on: "the filter", surfaces: [Theme.window, Theme.tinted(Theme.quaternary, 0.5)], texts: ["label", "tertiary"] },
             { on: "text selected in the filter", surfaces: [Theme.primaryFill], texts: ["bright"] },
-            { on: "the browser warning", surfaces: [Theme.window, Theme.tinted(Theme.orange, 0.06)], texts: ["orange"] },
+            { on: "the browser warning", surfaces: [Theme.window, Theme.tinted(Theme.orangeTint, 0.06)], texts: ["orange"] },
             { on: "the browser tip", surfaces: [Theme.window, Theme.darkMaterial], texts: ["bright", "brightSecondary"] },
             { on: "a primary pill", surfaces: [Theme.primaryFill], texts: ["bright"] },
             { on: "a primary pill under the pointer", surfaces: [Theme.primaryFill, Theme.strongHovered], texts: ["bright"] },
@@ -49,7 +49,7 @@ TestCase {
             { on: "a secondary pill under the pointer", surfaces: [Theme.window, Theme.secondaryFill, Theme.faintHovered], texts: ["secondary"] },
             { on: "a secondary pill of a sheet under the pointer", surfaces: [Theme.sheet, Theme.secondaryFill, Theme.faintHovered], texts: ["secondary"] },
             { on: "a tooltip", surfaces: [Theme.tooltip], texts: ["bright"] }
-        ].concat(["green", "orange", "red"].map(color => ({ on: "a badge in a selected row", surfaces: selected.concat([Theme.tinted(Theme[color], 0.15)]), texts: [color] })));
+        ].concat(["green", "orange", "red"].map(color => ({ on: "a badge in a selected row", surfaces: selected.concat([Theme.tinted(Theme.riskTint(color), 0.15)]), texts: [color] })));
     }
 
     function test_texts_stand_out_from_what_they_are_on_data() {
@@ -65,6 +65,13 @@ TestCase {
 
     function test_texts_stand_out_from_what_they_are_on(data) {
         verify(data.ratio >= 4.5, data.ratio);
+    }
+
+    function test_tints_are_clear_in_light_and_those_of_the_texts_in_dark() {
+        const words = ["green", "orange", "red"];
+        compare(words.map(word => Theme.riskTint(word).toString()), ["#34c759", "#ff9500", "#ff3b30"]);
+        Theme.dark = true;
+        compare(words.map(Theme.riskTint), words.map(Theme.shade));
     }
 
     function test_large_symbols_stand_out_from_what_they_are_on_data() {
