@@ -32,7 +32,7 @@ ColumnLayout {
         }
 
         PlainLabel {
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.baseline: title.baseline
             text: header.subtitle
             color: Theme.secondary
             font.pixelSize: Theme.caption

@@ -133,6 +133,7 @@ TestCase {
         compare(size.font.pixelSize, Theme.title3);
         verify(Qt.colorEqual(size.color, Theme.secondary));
         compare(topOf(size) - topOf(title.parent) - title.parent.height, 4);
+        compare(topOf(subtitle) + subtitle.baselineOffset, topOf(title) + title.baselineOffset);
     }
 
     function test_controls_row_counts_in_blue_also_when_nothing_is_selected() {
