@@ -79,7 +79,13 @@ FocusScope {
             PlainLabel {
                 id: placeholder
 
-                anchors.fill: parent
+                anchors {
+                    left: parent.left
+                    right: parent.right
+                    // So that the caret does not stand on the first letter.
+                    leftMargin: Theme.space2
+                    verticalCenter: parent.verticalCenter
+                }
                 visible: input.text === "" && input.preeditText === ""
                 text: "Filter items..."
                 color: Theme.tertiary

@@ -143,9 +143,16 @@ TestCase {
         compare(input().selectedText, "abc");
     }
 
+    function test_placeholder_begins_2_after_the_caret() {
+        compare(placeholder().x, 2);
+        compare(placeholder().width, input().width - 2);
+    }
+
     function test_right_to_left_every_text_begins_at_the_magnifying_glass() {
         filter.LayoutMirroring.enabled = true;
         filter.LayoutMirroring.childrenInherit = true;
+        compare(placeholder().x, 0);
+        compare(placeholder().width, input().width - 2);
         compare(placeholder().effectiveHorizontalAlignment, Text.AlignRight);
         filter.searchText = "chrome";
         compare(input().effectiveHorizontalAlignment, TextInput.AlignRight);
