@@ -12,13 +12,13 @@ Item {
     signal smartSelect
     signal deletionRequested
 
-    implicitHeight: Math.max(titles.height, 2 * select.implicitHeight + buttons.spacing) + 2 * Theme.space20
+    implicitHeight: Math.max(titles.height, 2 * select.implicitHeight + buttons.spacing) + 2 * Theme.space16
 
     Column {
         id: titles
 
         anchors.left: parent.left
-        anchors.leftMargin: Theme.space20
+        anchors.leftMargin: Theme.space16
         anchors.right: buttons.left
         anchors.rightMargin: Theme.space16
         anchors.verticalCenter: parent.verticalCenter
@@ -45,9 +45,9 @@ Item {
         id: buttons
 
         anchors.right: parent.right
-        anchors.rightMargin: Theme.space20
+        anchors.rightMargin: Theme.space16
         anchors.top: parent.top
-        anchors.topMargin: Theme.space20
+        anchors.topMargin: Theme.space16
         width: Math.max(select.implicitWidth, remove.visible ? remove.implicitWidth : 0)
         spacing: Theme.space8
 

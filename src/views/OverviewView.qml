@@ -43,7 +43,7 @@ Item {
         anchors.right: parent.right
         anchors.top: line.bottom
         anchors.bottom: parent.bottom
-        contentHeight: grid.height + 2 * Theme.space20
+        contentHeight: grid.height + 2 * Theme.space16
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         T.ScrollBar.vertical: SlimScrollBar {}
@@ -51,13 +51,13 @@ Item {
         CategoryGrid {
             id: grid
 
-            x: Theme.space20
-            y: Theme.space20
-            width: scroll.width - 2 * Theme.space20
+            x: Theme.space16
+            y: Theme.space16
+            width: scroll.width - 2 * Theme.space16
             categories: view.categories
             onChosen: category => view.categoryChosen(category)
             onReached: (top, bottom) => {
-                scroll.contentY = Math.max(Math.min(scroll.contentY, top), bottom + 2 * Theme.space20 - scroll.height);
+                scroll.contentY = Math.max(Math.min(scroll.contentY, top), bottom + 2 * Theme.space16 - scroll.height);
             }
         }
     }

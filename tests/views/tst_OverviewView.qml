@@ -100,8 +100,8 @@ TestCase {
         const remove = finder.button(view, "Delete Zero KB");
         waitForRendering(view);
         compare(remove.mapToItem(view, 0, 0).y - select.mapToItem(view, 0, select.height).y, 8);
-        compare(select.mapToItem(view, select.width, 0).x, 640);
-        compare(remove.mapToItem(view, remove.width, 0).x, 640);
+        compare(select.mapToItem(view, select.width, 0).x, 644);
+        compare(remove.mapToItem(view, remove.width, 0).x, 644);
     }
 
     function test_nothing_moves_when_the_second_button_appears() {
@@ -130,12 +130,12 @@ TestCase {
     function test_as_many_columns_as_fit_at_200_data() {
         return [
             { tag: "never fewer than one", width: 120, columns: 1 },
-            { tag: "one", width: 240, columns: 1 },
-            { tag: "just not two", width: 455, columns: 1 },
-            { tag: "two", width: 456, columns: 2 },
-            { tag: "just not three", width: 671, columns: 2 },
-            { tag: "three", width: 672, columns: 3 },
-            { tag: "all", width: 2320, columns: 5 }
+            { tag: "one", width: 232, columns: 1 },
+            { tag: "just not two", width: 447, columns: 1 },
+            { tag: "two", width: 448, columns: 2 },
+            { tag: "just not three", width: 663, columns: 2 },
+            { tag: "three", width: 664, columns: 3 },
+            { tag: "all", width: 2312, columns: 5 }
         ];
     }
 
@@ -153,8 +153,8 @@ TestCase {
         const all = cards(view);
         compare(all[1].x - all[0].x - all[0].width, 16);
         compare(all[2].y - all[0].y - all[0].height, 16);
-        compare(all[1].mapToItem(view, all[1].width, 0).x, 640);
-        compare(all[0].mapToItem(view, 0, 0).x, 20);
+        compare(all[1].mapToItem(view, all[1].width, 0).x, 644);
+        compare(all[0].mapToItem(view, 0, 0).x, 16);
     }
 
     function test_a_card_chooses_its_category() {
