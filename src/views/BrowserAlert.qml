@@ -20,7 +20,7 @@ Rectangle {
         }
         name: "exclamationmark.triangle.fill"
         color: Theme.orange
-        size: Theme.space16
+        size: Theme.body
     }
 
     Column {
@@ -31,6 +31,7 @@ Rectangle {
             right: parent.right
             top: parent.top
             margins: Theme.space12
+            leftMargin: Theme.space8
         }
         spacing: Theme.space4
 

@@ -149,6 +149,15 @@ TestCase {
         compare(symbol.mapToItem(box, 0, 0).y, text.parent.mapToItem(box, 0, 0).y);
     }
 
+    function test_warning_lines_up_with_the_list_below() {
+        const view = make({ hasBrowserItems: true });
+        const row = find.control(view, Accessible.ListItem, "com.google.Chrome");
+        const left = item => item.mapToItem(view, 0, 0).x;
+        compare(left(find.label(view, "Browser data selected")), left(find.label(view, "com.google.Chrome")));
+        const sign = find.symbol(find.label(view, "Browser data selected").parent.parent, "exclamationmark.triangle.fill");
+        compare(left(sign), left(find.symbol(row, "checkmark.circle.fill")));
+    }
+
     function test_list_is_as_high_as_its_rows_but_at_most_200() {
         const few = list(make()).parent;
         compare(few.height, 3 * 28 + 8);
