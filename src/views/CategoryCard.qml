@@ -21,7 +21,7 @@ PressButton {
 
     background: Rectangle {
         radius: 12
-        color: card.hovered || card.down ? Theme.materialHovered : Theme.material
+        color: card.down ? Theme.materialPressed : card.hovered ? Theme.materialHovered : Theme.material
 
         FocusRing {
             visible: card.visualFocus

@@ -19,6 +19,7 @@ QtObject {
     readonly property color sheet: theme.dark ? "#2a2a2d" : "#ffffff"
     readonly property color material: theme.dark ? Qt.rgba(1, 1, 1, 0.06) : Qt.rgba(0, 0, 0, 0.035)
     readonly property color materialHovered: theme.dark ? Qt.rgba(1, 1, 1, 0.09) : Qt.rgba(0, 0, 0, 0.055)
+    readonly property color materialPressed: theme.dark ? Qt.rgba(1, 1, 1, 0.13) : Qt.rgba(0, 0, 0, 0.085)
     /// Under white text, so it is dark in both appearances.
     readonly property color darkMaterial: theme.dark ? Qt.rgba(1, 1, 1, 0.08) : Qt.rgba(0.11, 0.11, 0.13, 0.86)
     readonly property color divider: theme.dark ? Qt.rgba(1, 1, 1, 0.12) : Qt.rgba(0, 0, 0, 0.1)

@@ -15,7 +15,7 @@ PressButton {
 
     background: Rectangle {
         radius: 8
-        color: button.down || button.hovered ? Theme.materialHovered : "transparent"
+        color: button.down ? Theme.materialPressed : button.hovered ? Theme.materialHovered : "transparent"
 
         FocusRing {
             visible: button.visualFocus

@@ -61,6 +61,13 @@ TestCase {
         compare(capsule.mapToItem(card, capsule.width, 0).x, card.width - 16);
     }
 
+    function test_shows_that_it_is_pressed() {
+        mousePress(card);
+        verify(Qt.colorEqual(card.background.color, Theme.materialPressed));
+        mouseRelease(card);
+        verify(!Qt.colorEqual(card.background.color, Theme.materialPressed));
+    }
+
     function test_type_scale() {
         const sizes = ["Package Caches", "npm, Homebrew, pip, yarn", "Zero KB"].map(text => finder.label(card, text).font.pixelSize);
         compare(sizes, [Theme.headline, Theme.caption, Theme.title3]);

@@ -70,6 +70,14 @@ TestCase {
         compare(scans.count, 1);
     }
 
+    function test_scan_shows_that_it_is_pressed() {
+        const button = finder.button(shell, "Scan");
+        mousePress(button);
+        verify(Qt.colorEqual(button.background.color, Theme.materialPressed));
+        mouseRelease(button);
+        verify(!Qt.colorEqual(button.background.color, Theme.materialPressed));
+    }
+
     function test_scan_is_disabled_while_a_scan_runs() {
         const button = finder.button(shell, "Scan");
         shell.canScan = false;

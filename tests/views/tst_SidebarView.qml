@@ -108,6 +108,14 @@ TestCase {
         compare(row("Log Files").Accessible.selected, false);
     }
 
+    function test_a_row_shows_that_it_is_pressed() {
+        const item = row("App Data");
+        mousePress(item);
+        verify(Qt.colorEqual(item.background.color, Theme.materialPressed));
+        mouseRelease(item);
+        verify(!Qt.colorEqual(item.background.color, Theme.materialPressed));
+    }
+
     function test_a_touch_picks() {
         const touched = touchEvent(row("App Data"));
         touched.press(0, row("App Data")).commit();
