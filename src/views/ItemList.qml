@@ -70,6 +70,11 @@ RowsView {
 
         function takeItsPlace(): void {
             Siblings.put(row, list.itemAtIndex(row.index - 1), list.itemAtIndex(row.index + 1));
+            // The current row is kept while it is out of view, and comes back unannounced.
+            if (list.currentIndex === row.index - 1)
+                Siblings.put(list.currentItem, null, row);
+            else if (list.currentIndex === row.index + 1)
+                Siblings.put(list.currentItem, row, null);
         }
 
         x: 8

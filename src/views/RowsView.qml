@@ -27,7 +27,7 @@ ListView {
 
     clip: true
     reuseItems: true
-    cacheBuffer: 200
+    cacheBuffer: 0 // rows built ahead are waited for, which Qt 6.4 complains of when the list gets shorter
     boundsBehavior: Flickable.StopAtBounds
     Accessible.role: Accessible.List
     T.ScrollBar.vertical: SlimScrollBar {}

@@ -3,6 +3,9 @@
 namespace drossbin {
 
 void Siblings::put(QQuickItem* item, const QQuickItem* previous, const QQuickItem* next) {
+    if (item == nullptr) {
+        return;
+    }
     if (previous != nullptr && previous != item) {
         item->stackAfter(previous);
     } else if (next != nullptr && next != item) {

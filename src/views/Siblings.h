@@ -15,7 +15,8 @@ class Siblings : public QObject {
     QML_SINGLETON
 
   public:
-    /// Puts an item right after `previous` or, where that is none, right before `next`.
+    /// Puts an item right after `previous` or, where that is none, right before `next`. Does
+    /// nothing without an item.
     Q_INVOKABLE static void put(QQuickItem* item, const QQuickItem* previous,
                                 const QQuickItem* next);
 };

@@ -169,6 +169,16 @@ TestCase {
         keyClick(Qt.Key_Space);
     }
 
+    function test_rows_may_go_as_soon_as_they_come() {
+        for (let round = 0; round < 100; ++round) {
+            fill(50);
+            wait(round % 3);
+            items.remove(5, 45);
+            wait(round % 2);
+        }
+        compare(list().count, 5);
+    }
+
     function test_check_box_toggles_its_row() {
         mouseClick(checkBox(1));
         compare(view.log.join("|"), "toggle 1");
