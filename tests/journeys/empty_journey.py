@@ -15,6 +15,17 @@ class Empty(Journey):
         program.find("list item", "com.example.New")
         program.wait_until_gone("label", "Your Mac is clean!")
 
+    def test_scans_the_disk_again_whatever_is_held(self):
+        self.needs_private_logs()
+        program = self.start()
+        self.scan(program)
+        program.find("push button", "Scan Again")
+        self.home.file("Library/Caches/com.example.New/blob", 2_000_000)
+        with self.desktop.held("Alt_L"):
+            program.click("push button", "Scan Again")
+            program.find("list item", "com.example.New")
+        self.assertEqual(self.rows(program), ["com.example.New"])
+
 
 if __name__ == "__main__":
     main()

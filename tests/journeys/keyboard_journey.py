@@ -96,6 +96,17 @@ class Keyboard(Journey):
         self.program.find("list item", "com.example.Editor")
         self.assertIsNone(self.program.now("push button", "Clear filter"))
 
+    def test_tab_goes_from_the_toolbar_to_the_sidebar_to_the_detail(self):
+        self.scan_by_keys()
+        self.walk_to("push button", "Scan")
+        for role, name in (("list item", "Program Caches"), ("push button", "Select All Safe")):
+            self.key("Tab")
+            wait_for(f"the focus on {name}", lambda role=role, name=name: self.is_at(role, name))
+
+    def is_at(self, role, name):
+        focused = self.program.focused()
+        return focused and (focused.role, focused.name) == (role, name)
+
     def test_arrows_walk_the_sidebar(self):
         self.scan_by_keys()
         self.walk_to("list item", "Program Caches")

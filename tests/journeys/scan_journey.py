@@ -11,7 +11,9 @@ class Scan(Journey):
         self.scan(program)
         for category, paths in expected.items():
             program.press("list item", category)
-            program.find("label", size_text(sum(map(measured, paths))))
+            total = size_text(sum(map(measured, paths)))
+            program.find("label", total)
+            self.assertEqual(program.find("list item", category).description, f"{len(paths)} items · {total}")
             largest_first = sorted(paths, key=measured, reverse=True)
             self.assertEqual(self.rows(program), [title(path) for path in largest_first])
             for path in paths:
