@@ -89,13 +89,14 @@ TEST_F(FilledScanResult, lists_the_items_of_a_category_in_their_order) {
 }
 
 TEST_F(FilledScanResult, narrows_a_category_to_names_with_the_search_text_in_any_case) {
-    result.searchText = "SLA";
-    EXPECT_THAT(namesFor(result, DiskCategory::programCaches), ElementsAre("Slack"));
+    result.items.modify([](auto& items) { items[0].name = "npm cache"; });
+    result.searchText = "NPM CACHE"; // which is not in the path
+    EXPECT_THAT(namesFor(result, DiskCategory::programCaches), ElementsAre("npm cache"));
     EXPECT_THAT(namesFor(result, DiskCategory::appData), IsEmpty());
 }
 
 TEST_F(FilledScanResult, finds_the_search_text_in_paths_too) {
-    result.searchText = "Library/Caches";
+    result.searchText = "LIBRARY/caches";
     EXPECT_THAT(namesFor(result, DiskCategory::programCaches),
                 ElementsAre("Safari", "Slack", "Notes"));
 }
