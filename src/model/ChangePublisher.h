@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/MainThread.h"
+
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -19,6 +21,7 @@ class ChangePublisher {
     using Subscription = std::shared_ptr<const Listener>;
 
     [[nodiscard]] Subscription subscribe(Listener listener) {
+        MainThread::require("the session state");
         auto subscription = std::make_shared<const Listener>(std::move(listener));
         m_listeners.emplace_back(subscription);
         return subscription;

@@ -59,6 +59,13 @@ TEST_F(ScanResultDeathTest, stops_the_program_when_touched_off_the_main_thread) 
                 wrongThread);
 }
 
+TEST_F(ScanResultDeathTest, stops_the_program_when_someone_subscribes_off_the_main_thread) {
+    EXPECT_EXIT(useOnAnotherThread([this] {
+                    std::ignore = result.objectWillChange.subscribe([](ScanResult::Field) {});
+                }),
+                testing::KilledBySignal(SIGABRT), wrongThread);
+}
+
 TEST_F(ScanResultDeathTest, moves_with_the_main_thread) {
     std::thread([this] {
         MainThread::connect([](const MainThread::Job&) {});
