@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
 #include <thread>
 #include <tuple>
 
@@ -75,17 +77,46 @@ TEST(DiskScanner, reports_before_each_step_the_bytes_of_the_steps_before) {
     });
 }
 
-TEST(DiskScanner, sorts_largest_first_and_keeps_equal_sizes_in_the_order_found) {
+TEST(DiskScanner, sorts_largest_first) {
+    checkWithSystemLogs(7'000'001, [] {
+        const ScratchHome home;
+        home.file("Library/Caches/file", 7'000'000);
+        home.file(".yarn/file", 6'999'999);
+        home.file("Library/Application Support/file", 7'000'002);
+        EXPECT_THAT(namesOf(scan().items),
+                    ElementsAre("file", "System Logs", "file", "Yarn cache"));
+        EXPECT_EQ(scan().items[0].size, 7'000'002);
+    });
+}
+
+/// What the category scans find, one after another.
+std::vector<std::string> namesInTheOrderFound(const ScratchHome& home) {
+    std::vector<std::string> names;
+    for (const auto& found :
+         {DiskScanner::scanProgramCaches(home.path()), DiskScanner::scanPackageCaches(home.path()),
+          DiskScanner::scanAppData(home.path()), DiskScanner::scanLogs(home.path()),
+          DiskScanner::scanOldDownloads(home / "Downloads")}) {
+        std::ranges::copy(namesOf(found), std::back_inserter(names));
+    }
+    return names;
+}
+
+// So many that a sort that is free to swap equal ones does.
+TEST(DiskScanner, keeps_60_equal_sizes_in_the_order_found) {
     checkWithSystemLogs(7'000'000, [] {
         const ScratchHome home;
-        for (const char* file : {"Library/Application Support/middle", "Library/Logs/log",
-                                 "Library/Caches/first", ".npm/file"}) {
-            home.file(file, 7'000'000);
+        for (int number = 0; number < 19; ++number) {
+            const std::string name = std::to_string(number);
+            home.file("Library/Caches/cache " + name, 7'000'000);
+            home.file("Library/Application Support/app " + name, 7'000'000);
+            const std::string download = home.file("Downloads/file " + name, 7'000'000);
+            test::setModificationDate(download, now() - std::chrono::days(60));
         }
-        home.file("Library/Application Support/largest", 7'000'001);
-        home.file(".yarn/file", 6'999'999);
-        EXPECT_THAT(namesOf(scan().items), ElementsAre("largest", "first", "npm cache", "middle",
-                                                       "User Logs", "System Logs", "Yarn cache"));
+        home.file("Library/Logs/log", 7'000'000);
+        home.file(".npm/file", 7'000'000);
+        const auto names = namesOf(scan().items);
+        EXPECT_EQ(names.size(), 60U);
+        EXPECT_EQ(names, namesInTheOrderFound(home));
     });
 }
 
