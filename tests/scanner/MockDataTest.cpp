@@ -141,7 +141,7 @@ TEST(MockData, holds_one_critical_nine_caution_and_23_safe_items) {
     EXPECT_EQ(counts[RiskLevel::safe], 23);
 }
 
-TEST(MockData, dates_each_group_within_its_range) {
+TEST(MockData, dates_each_group_within_its_range_and_near_both_ends_of_it) {
     struct Range {
         std::chrono::seconds youngest;
         std::chrono::seconds oldest;
@@ -152,7 +152,8 @@ TEST(MockData, dates_each_group_within_its_range) {
         {DiskCategory::appData, {3'600s, 1'209'600s}},
         {DiskCategory::logFiles, {3'600s, 3'600s}},
         {DiskCategory::oldDownloads, {2'592'000s, 7'776'000s}}};
-    for (int round = 0; round < 100; ++round) {
+    std::map<DiskCategory, Range> drawn;
+    for (int round = 0; round < 500; ++round) {
         const Date before = now();
         const auto items = MockData::generate();
         const Date after = now();
@@ -161,7 +162,16 @@ TEST(MockData, dates_each_group_within_its_range) {
             ASSERT_TRUE(item.lastAccessed);
             EXPECT_LE(*item.lastAccessed, after - range.youngest) << item.name;
             EXPECT_GE(*item.lastAccessed, before - range.oldest) << item.name;
+            const auto age = std::chrono::floor<std::chrono::seconds>(after - *item.lastAccessed);
+            Range& ages = drawn.try_emplace(item.category, Range{age, age}).first->second;
+            ages = {std::min(ages.youngest, age), std::max(ages.oldest, age)};
         }
+    }
+    // Of a thousand and more draws, none in the outer twentieth is out of the question.
+    for (const auto& [category, range] : ranges) {
+        const auto twentieth = (range.oldest - range.youngest) / 20 + 1s;
+        EXPECT_LT(drawn.at(category).youngest, range.youngest + twentieth) << icon(category);
+        EXPECT_GT(drawn.at(category).oldest, range.oldest - twentieth) << icon(category);
     }
 }
 
