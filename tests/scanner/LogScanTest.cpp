@@ -1,9 +1,14 @@
 #include "scanner/DiskScanner.h"
 #include "scanner/Scans.h"
+#include "support/Limits.h"
+#include "support/PrivateMount.h"
 #include "support/ScratchFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace drossbin {
 namespace {
@@ -38,6 +43,20 @@ TEST(LogScan, lists_a_system_log_folder_of_more_than_a_million_bytes) {
                   "safe to clear. Apps create new logs automatically.");
         EXPECT_EQ(items[0].lastAccessed, test::systemLogDate);
     });
+}
+
+TEST(LogScan, lists_system_logs_that_the_user_may_not_remove) {
+    const ScratchFolder logs;
+    logs.file("syslog", 2'000'000);
+    ASSERT_EQ(::chmod(logs.path().c_str(), 0555), 0);
+    test::checkWithFolderOver("/var/log", logs.path(), [] {
+        EXPECT_TRUE(test::holdsForOrdinaryUser([] {
+            const ScratchFolder home;
+            return ::access("/var/log", W_OK) != 0 && namesOf(DiskScanner::scanLogs(home.path())) ==
+                                                          std::vector<std::string>{"System Logs"};
+        }));
+    });
+    ASSERT_EQ(::chmod(logs.path().c_str(), 0755), 0); // so that it can go
 }
 
 TEST(LogScan, leaves_out_log_folders_of_exactly_a_million_bytes) {
