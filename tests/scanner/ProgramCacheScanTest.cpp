@@ -107,6 +107,20 @@ TEST(ProgramCacheScan, leaves_out_a_folder_that_lets_nobody_read_it) {
     }));
 }
 
+TEST(ProgramCacheScan, leaves_out_a_folder_whose_contents_are_listed_but_not_to_be_reached) {
+    EXPECT_TRUE(test::holdsForOrdinaryUser([] {
+        const ScratchFolder home;
+        home.file("Library/Caches/locked/file", 2'000'000);
+        home.file("Library/Caches/open/file", 2'000'000);
+        const std::string locked = home / "Library/Caches/locked";
+        ::chmod(locked.c_str(), 0444);
+        const auto size = DiskScanner::directorySize(locked);
+        const auto names = namesFoundIn(home);
+        ::chmod(locked.c_str(), 0700);
+        return size == 0 && names == std::vector<std::string>{"open"};
+    }));
+}
+
 TEST(ProgramCacheScan, finds_nothing_where_the_cache_folder_may_not_be_listed) {
     EXPECT_TRUE(test::holdsForOrdinaryUser([] {
         const ScratchFolder home;
