@@ -1,18 +1,17 @@
 #include "platform/FileDescriptor.h"
 #include "platform/FileManager.h"
 #include "support/HostileTrees.h"
+#include "support/ImmenseFiles.h"
 #include "support/Limits.h"
 #include "support/Meanwhile.h"
 #include "support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <cstdio>
 #include <fcntl.h>
 #include <string>
 #include <sys/stat.h>
-#include <thread>
 #include <unistd.h>
 
 namespace drossbin {
@@ -166,37 +165,9 @@ TEST(TreeSizeHostile, entries_that_come_and_go_leave_the_others_exact) {
     }
 }
 
-/// Two files whose sizes fit no sum. A file system in memory takes them.
-class ImmenseFiles {
-  public:
-    ImmenseFiles() {
-        ::mkdir(m_folder.c_str(), 0755);
-        for (const std::string& path : {m_folder + "/one", m_folder + "/two"}) {
-            const FileDescriptor file(::open(path.c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0644));
-            m_isMade = ::ftruncate(file.get(), std::numeric_limits<std::int64_t>::max()) == 0;
-        }
-    }
-    ~ImmenseFiles() {
-        ::unlink((m_folder + "/one").c_str());
-        ::unlink((m_folder + "/two").c_str());
-        ::rmdir(m_folder.c_str());
-    }
-    ImmenseFiles(const ImmenseFiles&) = delete;
-    ImmenseFiles& operator=(const ImmenseFiles&) = delete;
-    ImmenseFiles(ImmenseFiles&&) = delete;
-    ImmenseFiles& operator=(ImmenseFiles&&) = delete;
-
-    [[nodiscard]] bool isMade() const { return m_isMade; }
-    [[nodiscard]] const std::string& folder() const { return m_folder; }
-
-  private:
-    std::string m_folder = "/dev/shm/drossbin-" + std::to_string(::getpid());
-    bool m_isMade = false;
-};
-
 TEST(TreeSizeHostileDeathTest, sum_beyond_64_bits_stops_the_program) {
-    const ImmenseFiles files;
-    if (!files.isMade()) {
+    const test::ImmenseFiles files;
+    if (!files.areMade()) {
         GTEST_SKIP() << "no file system here takes files of 8 exbibytes";
     }
     EXPECT_DEATH((void)FileManager::sizeOfFolderContents(files.folder()),
