@@ -1,12 +1,15 @@
 #include "scanner/DiskScanner.h"
 
 #include "scanner/Scans.h"
+#include "support/ImmenseFiles.h"
 #include "support/ScratchFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <csignal>
+#include <cstdlib>
 #include <iterator>
 #include <thread>
 #include <tuple>
@@ -151,6 +154,22 @@ TEST(DiskScanner, may_scan_twice_at_once) {
         thread.join();
         EXPECT_EQ(namesOf(own.items), namesOf(other.items));
         EXPECT_EQ(own.reports, other.reports);
+    });
+}
+
+// Each fits; what the driver adds up does not.
+TEST(DiskScannerDeathTest, stops_the_program_when_the_sum_of_all_items_exceeds_64_bits) {
+    checkWithSystemLogs(0, [] {
+        const test::ImmenseFiles files("Library/Caches");
+        if (!files.areMade()) {
+            GTEST_SKIP() << "no file system here takes files of 8 exbibytes";
+        }
+        EXPECT_EXIT(
+            {
+                ::setenv("HOME", files.folder().c_str(), 1);
+                scan();
+            },
+            testing::KilledBySignal(SIGABRT), "^drossbin: a sum of sizes exceeds 64 bits\n$");
     });
 }
 
