@@ -1,19 +1,21 @@
 #include "platform/FileManager.h"
 #include "support/ScratchFolder.h"
+#include "support/SpecialFiles.h"
+#include "support/SystemCalls.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <string>
-#include <sys/socket.h>
-#include <sys/stat.h>
-#include <sys/un.h>
-#include <unistd.h>
+#include <vector>
 
 namespace drossbin {
 namespace {
 
 using test::ScratchFolder;
+using testing::ElementsAre;
+using testing::IsEmpty;
 
 const std::error_code noError;
 
@@ -130,21 +132,38 @@ TEST(RemoveItem, removes_one_name_of_a_file_with_two) {
     EXPECT_EQ(FileManager::attributesOfItem(scratch / "kept")->size, 5);
 }
 
+std::vector<std::string> namesOpenedByRemoving(const std::string& item, bool hidesKinds) {
+    const auto job = [&] { EXPECT_EQ(FileManager::removeItem(item), noError) << item; };
+    std::vector<std::string> names = test::namesOpenedBy(job, hidesKinds);
+    EXPECT_FALSE(isThere(item)) << item;
+    return names;
+}
+
 // Opening a FIFO that nobody writes to would wait for ever.
 TEST(RemoveItem, removes_fifos_and_sockets_without_opening_them) {
-    const ScratchFolder scratch;
-    scratch.folder("item");
-    ASSERT_EQ(::mkfifo((scratch / "fifo").c_str(), 0600), 0);
-    ASSERT_EQ(::mkfifo((scratch / "item/fifo").c_str(), 0600), 0);
-    sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
-    (scratch / "item/socket").copy(address.sun_path, sizeof(address.sun_path) - 1);
-    const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
-    ASSERT_EQ(::bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
-    EXPECT_EQ(FileManager::removeItem(scratch / "fifo"), noError);
-    EXPECT_EQ(FileManager::removeItem(scratch / "item"), noError);
-    EXPECT_FALSE(isThere(scratch / "fifo"));
-    EXPECT_FALSE(isThere(scratch / "item"));
-    ::close(socket);
+    for (const bool hidesKinds : {false, true}) {
+        const ScratchFolder scratch;
+        scratch.file("item/file", 1);
+        test::makePipe(scratch / "fifo");
+        test::makePipe(scratch / "item/fifo");
+        test::makeSocket(scratch / "socket");
+        test::makeSocket(scratch / "item/socket");
+        EXPECT_THAT(namesOpenedByRemoving(scratch / "fifo", hidesKinds), IsEmpty());
+        EXPECT_THAT(namesOpenedByRemoving(scratch / "socket", hidesKinds), IsEmpty());
+        EXPECT_THAT(namesOpenedByRemoving(scratch / "item", hidesKinds), ElementsAre("item"));
+    }
+}
+
+TEST(RemoveItem, removes_devices_without_opening_them) {
+    for (const bool hidesKinds : {false, true}) {
+        const ScratchFolder scratch;
+        scratch.folder("item");
+        if (!test::makeDevice(scratch / "device") || !test::makeDevice(scratch / "item/device")) {
+            GTEST_SKIP() << "only the superuser can make a device";
+        }
+        EXPECT_THAT(namesOpenedByRemoving(scratch / "device", hidesKinds), IsEmpty());
+        EXPECT_THAT(namesOpenedByRemoving(scratch / "item", hidesKinds), ElementsAre("item"));
+    }
 }
 
 TEST(RemoveItem, takes_names_as_raw_bytes) {

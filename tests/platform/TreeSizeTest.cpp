@@ -1,20 +1,21 @@
 #include "platform/FileManager.h"
 #include "support/Limits.h"
 #include "support/ScratchFolder.h"
+#include "support/SpecialFiles.h"
+#include "support/SystemCalls.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
 #include <string>
-#include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 namespace drossbin {
 namespace {
 
 using test::ScratchFolder;
+using testing::ElementsAre;
 
 std::int64_t ownSize(const std::string& path) {
     struct stat status {};
@@ -111,22 +112,35 @@ TEST(TreeSize, of_a_link_to_a_folder_is_of_that_folder) {
     EXPECT_EQ(measured(scratch / "link/"), 42);
 }
 
-TEST(TreeSize, opens_no_pipe_socket_or_device) {
+/// Measures a folder of special files and expects that nothing but the folder was opened, whether
+/// it tells of what kind its entries are or not.
+void expectOnlyFolderOpened(const ScratchFolder& scratch) {
+    const auto job = [&] { EXPECT_EQ(measured(scratch.path()), 8); };
+    for (const bool hidesKinds : {false, true}) {
+        EXPECT_THAT(test::namesOpenedBy(job, hidesKinds), ElementsAre(scratch.path()));
+    }
+}
+
+TEST(TreeSize, opens_no_file_pipe_or_socket) {
     const ScratchFolder scratch;
     scratch.file("file", 8);
-    ASSERT_EQ(::mkfifo((scratch / "pipe").c_str(), 0644), 0);
-    const int listener = ::socket(AF_UNIX, SOCK_STREAM, 0);
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    (scratch / "socket").copy(address.sun_path, sizeof(address.sun_path) - 1);
-    ASSERT_EQ(::bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof(address)), 0);
-    EXPECT_EQ(measured(scratch.path()), 8); // one that opens the pipe waits here for ever
-    ::close(listener);
+    test::makePipe(scratch / "pipe");
+    test::makeSocket(scratch / "socket");
+    expectOnlyFolderOpened(scratch);
+}
+
+TEST(TreeSize, opens_no_device) {
+    const ScratchFolder scratch;
+    scratch.file("file", 8);
+    if (!test::makeDevice(scratch / "device")) {
+        GTEST_SKIP() << "only the superuser can make a device";
+    }
+    expectOnlyFolderOpened(scratch);
 }
 
 TEST(TreeSize, of_a_pipe_is_absent_at_once) {
     const ScratchFolder scratch;
-    ASSERT_EQ(::mkfifo((scratch / "pipe").c_str(), 0644), 0);
+    test::makePipe(scratch / "pipe");
     EXPECT_EQ(measured(scratch / "pipe"), std::nullopt);
 }
 

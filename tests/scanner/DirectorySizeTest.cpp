@@ -78,5 +78,9 @@ TEST(DirectorySize, reads_no_pipe) {
     EXPECT_EQ(DiskScanner::directorySize(scratch.path()), 0);
 }
 
+TEST(DirectorySize, of_a_device_is_zero) {
+    EXPECT_EQ(DiskScanner::directorySize("/dev/null"), 0);
+}
+
 } // namespace
 } // namespace drossbin

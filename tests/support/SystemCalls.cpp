@@ -52,6 +52,22 @@ void SystemCallHook::hideKinds() {
     hidesKinds = true;
 }
 
+std::vector<std::string> namesOpenedBy(const std::function<void()>& job, bool hidesKinds) {
+    std::vector<std::string> names;
+    SystemCallHook hook([&](const SystemCallHook::Call& call) {
+        // Some systems read a folder through another opening of the same.
+        if (call.function == "openat" && call.name != ".") {
+            names.emplace_back(call.name);
+        }
+        return 0;
+    });
+    if (hidesKinds) {
+        hook.hideKinds();
+    }
+    job();
+    return names;
+}
+
 } // namespace drossbin::test
 
 using drossbin::test::isLetThrough;

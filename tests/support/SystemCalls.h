@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <functional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace drossbin::test {
 
@@ -35,5 +37,8 @@ class SystemCallHook {
   private:
     Hook m_hook;
 };
+
+/// The names that `job` opens. Where `hidesKinds`, folders keep those of their entries back.
+std::vector<std::string> namesOpenedBy(const std::function<void()>& job, bool hidesKinds);
 
 } // namespace drossbin::test
