@@ -85,6 +85,27 @@ TEST_F(DiskCleanerFailuresTest, to_write_the_log_are_ignored_and_leave_no_file) 
     EXPECT_TRUE(FileManager::contentsOfDirectory(logFolder())->empty());
 }
 
+TEST_F(DiskCleanerFailuresTest, for_a_mount_inside_an_item_leave_it_alone_and_go_on) {
+    m_home.folder("item/mount");
+    const std::vector<DiskItem> items{makeItem(m_home / "item", "item", 4'000),
+                                      makeItem(m_home.file("file", 1), "file", 2'000)};
+    const auto holds = test::holdsWithPrivateMounts([&] {
+        if (!test::mountMemory(m_home / "item/mount", "64k")) {
+            return false;
+        }
+        m_home.file("item/mount/folder/file", 1);
+        const auto outcome = run(items);
+        const std::vector<std::string> lines{"❌ Failed: item — Device or resource busy",
+                                             "✅ Deleted: file (2 KB)"};
+        return outcome.log == lines && outcome.bytesFreed == 2'000 && !isThere(m_home / "file") &&
+               isThere(m_home / "item/mount/folder/file");
+    });
+    if (!holds) {
+        GTEST_SKIP() << "this system lets the tests make no mounts of their own";
+    }
+    EXPECT_TRUE(*holds);
+}
+
 // Without space for a byte more, it is the removal that makes the space for its own record.
 TEST_F(DiskCleanerFailuresTest, do_not_keep_a_full_disk_from_being_cleaned_and_logged) {
     const auto holds = test::holdsWithPrivateMounts([this] {
