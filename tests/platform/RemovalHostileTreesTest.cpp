@@ -54,6 +54,11 @@ TEST_F(RemovalOfAHostileTree, copes_with_a_comb_of_3000_folders_and_their_siblin
     expectRemovedWithLittle(m_scratch);
 }
 
+TEST_F(RemovalOfAHostileTree, copes_with_a_comb_whose_siblings_are_listed_first) {
+    test::makeComb(m_scratch / "item", 3'000, "b", "a");
+    expectRemovedWithLittle(m_scratch);
+}
+
 // More folders than wait in memory at once, each deep enough for the wide one to be closed.
 TEST_F(RemovalOfAHostileTree, copes_with_a_wide_folder_of_deep_ones) {
     for (int index = 0; index < 40; ++index) {
