@@ -1,7 +1,7 @@
 #include "app/EventLoop.h"
 #include "platform/Locale.h"
+#include "views/Typeface.h"
 
-#include <QFont>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QQmlApplicationEngine>
@@ -18,6 +18,9 @@ using namespace drossbin;
 void writeNoCaches() {
     qputenv("QML_DISABLE_DISK_CACHE", "1");
     QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
+    // The drivers' own caches: Mesa's and NVIDIA's.
+    qputenv("MESA_SHADER_CACHE_DISABLE", "true");
+    qputenv("__GL_SHADER_DISK_CACHE", "0");
 }
 
 void followTheUsersLocale() {
@@ -26,22 +29,13 @@ void followTheUsersLocale() {
     Locale::setCurrent({isNone ? "en_US" : locale.name().toStdString()});
 }
 
-/// macOS has a font made for its screens; elsewhere the closest to it, where it is installed.
-void chooseFont() {
-#ifndef Q_OS_MACOS
-    QFont font = QGuiApplication::font();
-    font.setFamilies({QStringLiteral("Inter"), font.family()});
-    QGuiApplication::setFont(font);
-#endif
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
     writeNoCaches();
     const QGuiApplication application(argc, argv);
     followTheUsersLocale();
-    chooseFont();
+    chooseTypeface();
     connectMainThreadToEventLoop();
     QQmlApplicationEngine engine;
     engine.load(QUrl(QStringLiteral("qrc:/Drossbin/Views/Main.qml")));

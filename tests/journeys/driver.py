@@ -44,7 +44,7 @@ class Program:
         with open(self._errors, "wb") as errors:
             self.process = subprocess.Popen(
                 dies_with_us([*wrapper, *dies_with_us([path])]),
-                env=world.environment(**desktop.environment(), **FIXED, **environment),
+                env=world.environment(**desktop.environment(), **{**FIXED, **environment}),
                 stdin=subprocess.DEVNULL,
                 stdout=subprocess.DEVNULL,
                 stderr=errors,

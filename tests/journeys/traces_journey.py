@@ -20,9 +20,9 @@ class Traces(Journey):
             self.skipTest("the program cannot be traced here")
         self.trace = os.path.join(self.world.root, "trace")
 
-    def start_traced(self):
+    def start_traced(self, **environment):
         watch = ["strace", "-f", "-qq", "-y", "-s", "4096", "-o", self.trace, "-e", f"trace={CALLS}"]
-        return self.start(wrapper=watch)
+        return self.start(wrapper=watch, **environment)
 
     def written(self):
         """The paths that were opened for writing, made or renamed, from the trace."""
@@ -55,6 +55,12 @@ class Traces(Journey):
         program = self.start_traced()
         self.scan(program)
         program.find("list item", "com.example.Editor")
+        self.assertEqual(program.close(), 0)
+        self.assertEqual(self.written(), set())
+
+    def test_drawing_with_a_graphics_card_writes_nothing_either(self):
+        program = self.start_traced(QT_QUICK_BACKEND="")
+        program.find("push button", "Start System Scan")
         self.assertEqual(program.close(), 0)
         self.assertEqual(self.written(), set())
 

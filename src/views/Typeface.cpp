@@ -1,0 +1,20 @@
+#include "views/Typeface.h"
+
+#include <QFont>
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+namespace drossbin {
+
+void chooseTypeface() {
+    QFont font = QGuiApplication::font();
+#ifndef Q_OS_MACOS // which has a font made for its screens; this is the closest to it
+    font.setFamilies({QStringLiteral("Inter"), font.family()});
+#endif
+    // Painted figures have neither coloured edges nor letters scaled from one size.
+    font.setStyleStrategy(QFont::NoSubpixelAntialias);
+    QGuiApplication::setFont(font);
+    QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
+}
+
+} // namespace drossbin
