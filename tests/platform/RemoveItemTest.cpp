@@ -1,6 +1,6 @@
 #include "platform/FileManager.h"
+#include "support/PipesAndDevices.h"
 #include "support/ScratchFolder.h"
-#include "support/SpecialFiles.h"
 #include "support/SystemCalls.h"
 
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 #include "platform/FileManager.h"
 #include "support/Limits.h"
+#include "support/PipesAndDevices.h"
 #include "support/ScratchFolder.h"
-#include "support/SpecialFiles.h"
 #include "support/SystemCalls.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "support/SpecialFiles.h"
+#include "support/PipesAndDevices.h"
 
 #include "platform/FileDescriptor.h"
 
