@@ -13,6 +13,7 @@ class ThreadPace {
   private:
     std::int64_t m_time = 0;
     std::int64_t m_processorTime = 0;
+    std::int64_t m_pauses = 0;
 };
 
 } // namespace drossbin
