@@ -55,7 +55,7 @@ class TreeWalk {
 
     /// Entries before the first look at what others want, and between two looks. Less is dearer
     /// to give away than to do.
-    static constexpr std::size_t firstStretch = 512;
+    static constexpr std::size_t firstStretch = 256;
     static constexpr std::size_t stretch = 128;
     std::size_t m_untilStock = firstStretch;
     ThreadPace m_pace;
