@@ -126,6 +126,9 @@ void ContentView::askForReducedMotion() {
 }
 
 void ContentView::noteChange(ScanResult::Field field) {
+    if (field == ScanResult::Field::items) {
+        m_surveyor.noteSelection();
+    }
     m_isSurveyStale |= field == ScanResult::Field::items || field == ScanResult::Field::searchText;
     queueRefresh();
 }

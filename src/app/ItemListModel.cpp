@@ -70,7 +70,7 @@ QHash<int, QByteArray> ItemListModel::roleNames() const {
 
 void ItemListModel::refresh(const ItemSurvey& survey) {
     if (m_rows.are(survey.list, survey.rows)) {
-        announceChangesSince(std::exchange(m_isSelected, m_rows.selection()));
+        announceChangesSince(std::exchange(m_isSelected, survey.areRowsSelected));
         return;
     }
     const int last = m_rows.count();
@@ -93,7 +93,7 @@ void ItemListModel::refresh(const ItemSurvey& survey) {
 
 void ItemListModel::replaceRows(const ItemSurvey& survey) {
     m_rows.replace(survey.list, survey.rows);
-    m_isSelected = m_rows.selection();
+    m_isSelected = survey.areRowsSelected;
 }
 
 void ItemListModel::toggle(int row) {

@@ -25,17 +25,6 @@ class ItemRows {
                    : nullptr;
     }
 
-    /// Whether each row's item is selected. The list must be the one that the places are of.
-    [[nodiscard]] std::vector<bool> selection() const {
-        const std::vector<DiskItem>& items = m_result.items;
-        std::vector<bool> selection;
-        selection.reserve(m_places.size());
-        for (const std::size_t place : m_places) {
-            selection.push_back(items[place].isSelected);
-        }
-        return selection;
-    }
-
     [[nodiscard]] bool are(const ListIdentity& list, const std::vector<std::size_t>& places) const {
         return list == m_list && places == m_places;
     }

@@ -8,86 +8,106 @@
 
 namespace drossbin {
 
-namespace {
-
-void count(const DiskItem& item, CategorySurvey& survey) {
-    ++survey.count;
-    survey.size = checkedSum(survey.size, item.size);
-    if (item.isSelected) {
-        ++survey.selectedCount;
-        survey.selectedSize = checkedSum(survey.selectedSize, item.size);
-    }
-}
-
-void sortLargestFirst(std::vector<std::size_t>& places, const std::vector<DiskItem>& items) {
-    const auto sizeOf = [&items](std::size_t place) { return items[place].size; };
-    // A scan's list is sorted already, and seeing that is cheaper than sorting it again.
-    if (!std::ranges::is_sorted(places, std::ranges::greater{}, sizeOf)) {
-        std::ranges::stable_sort(places, std::ranges::greater{}, sizeOf);
-    }
-}
-
-} // namespace
-
 ListIdentity ListIdentity::of(const std::vector<DiskItem>& items) {
     return items.empty() ? ListIdentity{} : ListIdentity{items.size(), items.front().id};
 }
 
 ItemSurvey ItemSurveyor::survey(const ScanResult& result, std::optional<DiskCategory> shown) {
     remember(result);
-    const std::vector<DiskItem>& items = result.items;
     ItemSurvey survey;
     survey.list = *m_list;
-    survey.rows.reserve(items.size());
-    for (std::size_t place = 0; place < items.size(); ++place) {
-        const DiskItem& item = items[place];
-        survey.totalSize = checkedSum(survey.totalSize, item.size);
-        if (item.isSelected) {
-            countSelected(item, place, survey);
+    for (std::size_t place = 0; place < m_facts.size(); ++place) {
+        const Facts& facts = m_facts[place];
+        survey.totalSize = checkedSum(survey.totalSize, facts.size);
+        if (facts.isSelected) {
+            countSelected(result.items.get()[place], place, survey);
         }
-        if (m_passes[place]) {
-            count(item, survey.categories.at(static_cast<std::size_t>(item.category)));
-            if (item.category == shown) {
+        if (facts.passes) {
+            count(facts, survey.categories.at(static_cast<std::size_t>(facts.category)));
+            if (facts.category == shown) {
                 survey.rows.push_back(place);
             }
         }
     }
-    sortLargestFirst(survey.rows, items);
+    finishRows(survey);
     return survey;
 }
 
 void ItemSurveyor::remember(const ScanResult& result) {
     const std::vector<DiskItem>& items = result.items;
-    const ListIdentity list = ListIdentity::of(items);
-    const bool isSameList = m_list == list;
-    if (!isSameList) {
-        m_browserData.assign(items.size(), BrowserData::unknown);
+    if (m_list != ListIdentity::of(items)) {
+        rememberList(items);
     }
-    if (!isSameList || m_searchText != result.searchText.get()) {
-        const ItemFilter filter(result.searchText.get());
-        m_passes.clear();
-        m_passes.reserve(items.size());
-        for (const DiskItem& item : items) {
-            m_passes.push_back(filter.passes(item));
-        }
+    if (!m_isSelectionKnown) {
+        rememberSelection(items);
     }
-    m_list = list;
-    m_searchText = result.searchText;
+    if (m_searchText != result.searchText.get()) {
+        filter(result.searchText);
+    }
+}
+
+void ItemSurveyor::rememberList(const std::vector<DiskItem>& items) {
+    m_facts.clear();
+    m_facts.reserve(items.size());
+    for (const DiskItem& item : items) {
+        m_facts.push_back({item.size, item.category, item.isSelected, true, BrowserData::unknown});
+    }
+    m_texts.emplace(items);
+    m_list = ListIdentity::of(items);
+    m_searchText.reset();
+    m_isSelectionKnown = true;
+}
+
+void ItemSurveyor::rememberSelection(const std::vector<DiskItem>& items) {
+    for (std::size_t place = 0; place < items.size(); ++place) {
+        m_facts[place].isSelected = items[place].isSelected;
+    }
+    m_isSelectionKnown = true;
+}
+
+void ItemSurveyor::filter(const std::string& searchText) {
+    const ItemFilter filter(searchText);
+    for (std::size_t place = 0; place < m_facts.size(); ++place) {
+        m_facts[place].passes = filter.passes(*m_texts, place);
+    }
+    m_searchText = searchText;
+}
+
+void ItemSurveyor::count(const Facts& facts, CategorySurvey& survey) {
+    ++survey.count;
+    survey.size = checkedSum(survey.size, facts.size);
+    if (facts.isSelected) {
+        ++survey.selectedCount;
+        survey.selectedSize = checkedSum(survey.selectedSize, facts.size);
+    }
 }
 
 void ItemSurveyor::countSelected(const DiskItem& item, std::size_t place, ItemSurvey& survey) {
     survey.selected.push_back(place);
-    survey.selectedSize = checkedSum(survey.selectedSize, item.size);
+    survey.selectedSize = checkedSum(survey.selectedSize, m_facts[place].size);
     survey.hasBrowserData = survey.hasBrowserData || isBrowserData(item, place);
 }
 
 bool ItemSurveyor::isBrowserData(const DiskItem& item, std::size_t place) {
-    BrowserData& known = m_browserData[place];
+    BrowserData& known = m_facts[place].browserData;
     if (known == BrowserData::unknown) {
         known =
             containsBrowserWord(item.name, item.path) ? BrowserData::present : BrowserData::absent;
     }
     return known == BrowserData::present;
+}
+
+void ItemSurveyor::finishRows(ItemSurvey& survey) const {
+    std::vector<std::size_t>& rows = survey.rows;
+    const auto sizeOf = [this](std::size_t place) { return m_facts[place].size; };
+    // A scan's list is sorted already, and seeing that is cheaper than sorting it again.
+    if (!std::ranges::is_sorted(rows, std::ranges::greater{}, sizeOf)) {
+        std::ranges::stable_sort(rows, std::ranges::greater{}, sizeOf);
+    }
+    survey.areRowsSelected.reserve(rows.size());
+    for (const std::size_t place : rows) {
+        survey.areRowsSelected.push_back(m_facts[place].isSelected);
+    }
 }
 
 } // namespace drossbin

@@ -2,13 +2,11 @@
 
 #include "platform/CharacterBoundary.h"
 
-#include <unicode/locid.h>
 #include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <optional>
 #include <span>
 #include <string>
@@ -19,12 +17,6 @@ namespace drossbin {
 namespace {
 
 constexpr char16_t dotlessI = u'\u0131';
-
-/// Whether the locale's capital I is that of "ı", as in Turkish, and not that of "i".
-bool hasDotlessI(const Locale& locale) {
-    const std::string language = icu::Locale(locale.identifier.c_str()).getLanguage();
-    return language == "tr" || language == "az";
-}
 
 icu::UnicodeString decoded(std::string_view text) {
     return icu::UnicodeString::fromUTF8({text.data(), static_cast<int32_t>(text.size())});
@@ -55,11 +47,8 @@ bool containsWhole(const icu::UnicodeString& text, const icu::UnicodeString& key
 
 } // namespace
 
-/// As many bytes as a processor folds at once.
-using Block = std::array<unsigned char, 16>;
-
 struct CaseInsensitiveSearch::Pattern {
-    uint32_t folding;       ///< ICU's option for the locale
+    CaseFolding folding;
     icu::UnicodeString key; ///< composed, folded, composed again
 
     /// The key as it stands in folded ASCII text, if it can be in one. A capital I of its own is
@@ -67,37 +56,21 @@ struct CaseInsensitiveSearch::Pattern {
     std::optional<std::string> asciiKey;
 
     Pattern(std::string_view pattern, const Locale& locale)
-        : folding(hasDotlessI(locale) ? U_FOLD_CASE_EXCLUDE_SPECIAL_I : U_FOLD_CASE_DEFAULT)
-        , key(composed(composed(decoded(pattern)).foldCase(folding)))
+        : folding(locale)
+        , key(composed(composed(decoded(pattern)).foldCase(folding.option())))
         , asciiKey(keyInAscii()) {}
-
-    [[nodiscard]] bool keepsCapitalI() const { return folding == U_FOLD_CASE_EXCLUDE_SPECIAL_I; }
 
     [[nodiscard]] std::optional<std::string> keyInAscii() const {
         std::string ascii;
         for (int32_t index = 0; index < key.length(); ++index) {
             const char16_t unit = key[index];
-            const bool isCapitalI = unit == dotlessI && keepsCapitalI();
+            const bool isCapitalI = unit == dotlessI && folding.keepsCapitalI();
             if (unit > 0x7F && !isCapitalI) {
                 return std::nullopt;
             }
             ascii += isCapitalI ? 'I' : static_cast<char>(unit);
         }
         return ascii;
-    }
-
-    /// Folds the ASCII letters of whole blocks in place; false if they hold more than ASCII.
-    [[nodiscard]] bool foldAscii(std::span<Block> blocks) const {
-        const unsigned char kept = keepsCapitalI() ? 'I' : '\0';
-        unsigned char bits = 0;
-        for (Block& block : blocks) {
-            for (unsigned char& c : block) {
-                bits |= c;
-                const bool isCapital = c >= 'A' && c <= 'Z' && c != kept;
-                c = static_cast<unsigned char>(c + (isCapital ? 'a' - 'A' : 0));
-            }
-        }
-        return bits <= 0x7F;
     }
 
     /// `folded` is ASCII, where only a carriage return and a line feed make one character.
@@ -116,7 +89,7 @@ struct CaseInsensitiveSearch::Pattern {
 
     [[nodiscard]] bool isFoundInUnicode(const icu::UnicodeString& text) const {
         icu::UnicodeString folded = text;
-        folded.foldCase(folding);
+        folded.foldCase(folding.option());
         // Folding never shortens a text, so one of the same length has kept every place.
         if (folded.length() == text.length() && isComposed(folded)) {
             return containsWhole(
@@ -134,7 +107,7 @@ struct CaseInsensitiveSearch::Pattern {
                 next = text.moveIndex32(next, 1);
             } while (!isBetweenCharacters(text, next));
             icu::UnicodeString character = text.tempSubStringBetween(start, next);
-            folded.append(composed(character.foldCase(folding)));
+            folded.append(composed(character.foldCase(folding.option())));
             boundaries.push_back(folded.length());
         }
         return containsWhole(folded, key, [&boundaries](int32_t place) {
@@ -151,26 +124,23 @@ CaseInsensitiveSearch::CaseInsensitiveSearch(CaseInsensitiveSearch&&) noexcept =
 CaseInsensitiveSearch& CaseInsensitiveSearch::operator=(CaseInsensitiveSearch&&) noexcept = default;
 
 bool CaseInsensitiveSearch::isFoundIn(std::string_view text) const {
-    if (m_pattern->key.isEmpty()) {
-        return false;
-    }
-    // Most texts are short and ASCII: one letter typed looks through all of them without a call
-    // to ICU or the heap.
-    std::array<Block, 32> shortText; // NOLINT(cppcoreguidelines-pro-type-member-init)
-    std::vector<Block> longText;
-    const std::size_t count = text.size() / sizeof(Block) + 1;
+    // Most texts are short and ASCII, and are looked through without a call to ICU or the heap.
+    std::array<CaseFolding::Block, 32> shortText; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    std::vector<CaseFolding::Block> longText;
+    const std::size_t count = CaseFolding::blocksFor(text);
     if (count > shortText.size()) {
         longText.resize(count);
     }
-    const std::span<Block> blocks =
-        longText.empty() ? std::span<Block>(shortText).first(count) : std::span<Block>(longText);
-    blocks.back() = {};
-    std::memcpy(blocks.data(), text.data(), text.size());
-    if (m_pattern->foldAscii(blocks)) {
-        return m_pattern->isFoundInAscii(
-            {reinterpret_cast<const char*>(blocks.data()), text.size()});
+    return isFoundIn(m_pattern->folding.fold(
+        text, longText.empty() ? std::span(shortText).first(count) : std::span(longText)));
+}
+
+bool CaseInsensitiveSearch::isFoundIn(FoldedText text) const {
+    if (m_pattern->key.isEmpty()) {
+        return false;
     }
-    return m_pattern->isFoundInUnicode(composed(decoded(text)));
+    return text.isAscii ? m_pattern->isFoundInAscii(text.bytes)
+                        : m_pattern->isFoundInUnicode(composed(decoded(text.bytes)));
 }
 
 } // namespace drossbin

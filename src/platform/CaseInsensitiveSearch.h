@@ -1,9 +1,8 @@
 #pragma once
 
-#include "platform/Locale.h"
+#include "platform/CaseFolding.h"
 
 #include <memory>
-#include <string>
 #include <string_view>
 
 namespace drossbin {
@@ -25,6 +24,9 @@ class CaseInsensitiveSearch {
     /// Whether `text` contains the pattern. Bytes that are no UTF-8 count as U+FFFD. An empty
     /// pattern is found in nothing.
     [[nodiscard]] bool isFoundIn(std::string_view text) const;
+
+    /// The same for a text that was folded before, by the rules of the same locale.
+    [[nodiscard]] bool isFoundIn(FoldedText text) const;
 
   private:
     struct Pattern;

@@ -74,6 +74,37 @@ TEST(ItemSurvey, lists_the_rows_of_the_category_shown_and_of_no_other) {
     EXPECT_THAT(surveyOf(result, std::nullopt).rows, IsEmpty());
 }
 
+TEST(ItemSurvey, tells_of_each_row_whether_it_is_selected) {
+    ScanResult result;
+    result.items = {selected(item("a", 5, logFiles)), item("b", 9, logFiles),
+                    selected(item("c", 8, appData)), selected(item("d", 7, logFiles))};
+    EXPECT_THAT(surveyOf(result, logFiles).rows, ElementsAre(1, 3, 0));
+    EXPECT_THAT(surveyOf(result, logFiles).areRowsSelected, ElementsAre(false, true, true));
+}
+
+TEST(ItemSurvey, sees_a_selection_that_it_was_told_of) {
+    ScanResult result;
+    result.items = {item("a", 5, logFiles), item("b", 4, logFiles)};
+    ItemSurveyor surveyor;
+    EXPECT_EQ(surveyor.survey(result, logFiles).selectedSize, 0);
+    result.toggleSelectionFor(result.items.get().back());
+    surveyor.noteSelection();
+    const ItemSurvey survey = surveyor.survey(result, logFiles);
+    EXPECT_EQ(survey.selectedSize, 4);
+    EXPECT_EQ(survey.of(logFiles).selectedCount, 1);
+    EXPECT_THAT(survey.areRowsSelected, ElementsAre(false, true));
+}
+
+TEST(ItemSurvey, filters_another_list_by_the_same_text) {
+    ScanResult result;
+    result.searchText = "b";
+    ItemSurveyor surveyor;
+    result.items = {item("a", 5, logFiles), item("b", 4, logFiles)};
+    EXPECT_THAT(surveyor.survey(result, logFiles).rows, ElementsAre(1));
+    result.items = {item("b", 5, logFiles), item("a", 4, logFiles)};
+    EXPECT_THAT(surveyor.survey(result, logFiles).rows, ElementsAre(0));
+}
+
 TEST(ItemSurvey, sorts_rows_largest_first_and_leaves_equal_ones_in_list_order) {
     ScanResult result;
     constexpr std::int64_t huge = std::numeric_limits<std::int64_t>::max() - 100;
