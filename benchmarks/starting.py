@@ -11,6 +11,7 @@ from desktop import Desktop, dies_with_us
 
 SOFTWARE = {"QT_QUICK_BACKEND": "software"}
 LLVMPIPE = {"LIBGL_ALWAYS_SOFTWARE": "1"}
+OPENGL = {"QT_QUICK_BACKEND": ""}  # even where there is no graphics card
 PEERS = ("filelight", "qdirstat", "baobab", "bleachbit", "stacer")
 SECONDS = 5  # of watching after the first change: most are done by then, and have idled for three
 ROUNDS = 9
@@ -21,24 +22,35 @@ QUESTIONS = (("first painted", "ms", 1.5), ("complete", "ms", 1.5), ("memory", "
 
 def cases(bench):
     desktop = None
-    for renderer, environment, peers in (("software", SOFTWARE, PEERS), ("llvmpipe", LLVMPIPE, ())):
+    for renderer, environment, others in (("software", SOFTWARE, _peers()),
+                                          ("llvmpipe", LLVMPIPE, _with_opengl(bench))):
         wanted = [(index, f"start: {question}, {renderer}")
                   for index, (question, *_) in enumerate(QUESTIONS)
                   if bench.wants(f"start: {question}, {renderer}")]
         if wanted:
             desktop = desktop or Desktop(bench.world)
-            starts = _starts(bench, desktop, environment, peers)
+            starts = _starts(bench, desktop, environment, others)
             for index, name in wanted:
                 yield _case(name, index, starts)
     if desktop:
         desktop.close()
 
 
-def _starts(bench, desktop, environment, peers):
-    commands = {"empty window": [bench.tools / "empty_window"], "drossbin": [bench.program]}
-    commands |= {peer: [peer] for peer in peers if shutil.which(peer)}
-    tasks = {name: lambda command=command: _start(bench, desktop, command, environment)
-             for name, command in commands.items()}
+def _peers():
+    return {peer: ([peer], {}) for peer in PEERS if shutil.which(peer)}
+
+
+def _with_opengl(bench):
+    """Without a graphics card Drossbin leaves OpenGL alone, unless it is told to use it."""
+    return {"drossbin, told to use OpenGL": ([bench.program], OPENGL)}
+
+
+def _starts(bench, desktop, environment, others):
+    programs = {"empty window": ([bench.tools / "empty_window"], {}),
+                "drossbin": ([bench.program], {}), **others}
+    tasks = {name: lambda command=command, more=more:
+             _start(bench, desktop, command, {**environment, **more})
+             for name, (command, more) in programs.items()}
     return bench.in_turns(tasks, ROUNDS)
 
 

@@ -1,5 +1,6 @@
 #include "app/EventLoop.h"
 #include "platform/Locale.h"
+#include "views/Renderer.h"
 #include "views/Typeface.h"
 
 #include <QGuiApplication>
@@ -35,6 +36,7 @@ int main(int argc, char** argv) {
     writeNoCaches();
     const QGuiApplication application(argc, argv);
     followTheUsersLocale();
+    chooseRenderer();
     chooseTypeface();
     connectMainThreadToEventLoop();
     QQmlApplicationEngine engine;
