@@ -16,7 +16,7 @@ std::int64_t nanoseconds(clockid_t clock) {
 
 /// How often the thread has stopped of its own accord. When it was made to stop, so that another
 /// could run, it had something to do.
-std::int64_t pauses() {
+std::int64_t pausesSoFar() {
 #ifdef RUSAGE_THREAD
     rusage usage{};
     ::getrusage(RUSAGE_THREAD, &usage);
@@ -28,15 +28,17 @@ std::int64_t pauses() {
 
 } // namespace
 
+ThreadPace::Moment ThreadPace::Moment::now() {
+    return {nanoseconds(CLOCK_MONOTONIC), nanoseconds(CLOCK_THREAD_CPUTIME_ID), pausesSoFar()};
+}
+
 bool ThreadPace::hasWaited() {
-    const std::int64_t time = nanoseconds(CLOCK_MONOTONIC);
-    const std::int64_t processorTime = nanoseconds(CLOCK_THREAD_CPUTIME_ID);
-    const std::int64_t pausesSoFar = pauses();
-    const std::int64_t passed = time - std::exchange(m_time, time);
-    const std::int64_t used = processorTime - std::exchange(m_processorTime, processorTime);
-    const bool hasPaused = pausesSoFar != std::exchange(m_pauses, pausesSoFar);
-    const bool isFirstCall = passed == time;
-    return !isFirstCall && hasPaused && used < passed / 2;
+    const Moment now = Moment::now();
+    const std::optional<Moment> last = std::exchange(m_last, now);
+    if (!last || now.pauses == last->pauses) {
+        return false;
+    }
+    return now.processorTime - last->processorTime < (now.time - last->time) / 2;
 }
 
 } // namespace drossbin

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 namespace drossbin {
 
@@ -10,10 +11,19 @@ class ThreadPace {
     /// Whether the calling thread waited for most of the time since the last call on it.
     bool hasWaited();
 
+    /// Forgets what was before, as when the thread waited for another.
+    void restart() { m_last = Moment::now(); }
+
   private:
-    std::int64_t m_time = 0;
-    std::int64_t m_processorTime = 0;
-    std::int64_t m_pauses = 0;
+    struct Moment {
+        std::int64_t time; ///< in nanoseconds, as is the next
+        std::int64_t processorTime;
+        std::int64_t pauses;
+
+        static Moment now();
+    };
+
+    std::optional<Moment> m_last;
 };
 
 } // namespace drossbin

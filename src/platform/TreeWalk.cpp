@@ -136,6 +136,7 @@ void TreeWalk::takeStock() {
     if (m_crew->wantsWork()) {
         if (auto share = m_stack.split()) {
             m_crew->give({std::move(share->folder), {}, std::move(share->names)}, m_measurement);
+            m_pace.restart(); // to wait for the crew is not to wait for the disk
         }
     }
 }

@@ -43,5 +43,14 @@ TEST(ThreadPace, forgets_what_was_before_the_last_look) {
     EXPECT_FALSE(pace.hasWaited());
 }
 
+TEST(ThreadPace, forgets_what_was_before_a_restart) {
+    ThreadPace pace;
+    pace.hasWaited();
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    pace.restart();
+    compute();
+    EXPECT_FALSE(pace.hasWaited());
+}
+
 } // namespace
 } // namespace drossbin
