@@ -1,6 +1,7 @@
 #include "platform/WalkCrew.h"
 
 #include "platform/CheckedSum.h"
+#include "platform/ProcessorCore.h"
 
 #include <algorithm>
 #include <memory>
@@ -66,7 +67,12 @@ void WalkCrew::give(Parcel parcel, Measurement& measurement) {
 
 void WalkCrew::startThread() {
     try {
-        std::thread([this] { work(); }).detach();
+        // A system may start a thread on the core of its maker, and take as long to see that
+        // another core is idle as 10,000 files take to be measured.
+        std::thread([this, makers = currentCore()] {
+            leaveCore(makers);
+            work();
+        }).detach();
         ++m_threads;
     } catch (const std::system_error&) {
         // No thread to be had: the parcel's owner walks it in the end.
