@@ -1,36 +1,36 @@
 #include "platform/GraphicsCard.h"
 
+#ifdef __linux__
+#include "platform/FileManager.h"
+
 #include <algorithm>
-#include <system_error>
+#endif
 
 namespace drossbin {
-
-namespace fs = std::filesystem;
 
 #ifdef __linux__
 
 namespace {
 
-bool hasRenderNode(const fs::path& folder) {
-    std::error_code error; // no such folder is no card
-    const auto isRenderNode = [](const fs::directory_entry& entry) {
-        return entry.path().filename().native().starts_with("renderD");
-    };
-    return std::any_of(fs::directory_iterator(folder, error), fs::directory_iterator(),
-                       isRenderNode);
+bool exists(const std::string& path) {
+    return FileManager::existence(path) != FileManager::Existence::missing;
+}
+
+bool isRenderNode(const std::string& name) {
+    return name.starts_with("renderD");
 }
 
 } // namespace
 
-bool hasGraphicsCard(const fs::path& devices) {
-    std::error_code error; // what cannot be looked at cannot be drawn with
-    return hasRenderNode(devices / "dri") || fs::exists(devices / "nvidiactl", error) ||
-           fs::exists(devices / "dxg", error);
+bool hasGraphicsCard(const std::string& devices) {
+    const auto nodes = FileManager::contentsOfDirectory(devices + "/dri");
+    return (nodes && std::ranges::any_of(*nodes, isRenderNode)) || exists(devices + "/nvidiactl") ||
+           exists(devices + "/dxg");
 }
 
 #else
 
-bool hasGraphicsCard(const fs::path& /*devices*/) {
+bool hasGraphicsCard(const std::string& /*devices*/) {
     return true;
 }
 

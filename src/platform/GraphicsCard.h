@@ -1,6 +1,6 @@
 #pragma once
 
-#include <filesystem>
+#include <string>
 
 namespace drossbin {
 
@@ -10,6 +10,6 @@ namespace drossbin {
 ///
 /// On Linux, such a card has a render node below /dev/dri (drivers of the kernel), /dev/nvidiactl
 /// (NVIDIA's own) or /dev/dxg (Linux inside Windows). Other systems are taken to have one.
-[[nodiscard]] bool hasGraphicsCard(const std::filesystem::path& devices = "/dev");
+[[nodiscard]] bool hasGraphicsCard(const std::string& devices = "/dev");
 
 } // namespace drossbin
