@@ -14,8 +14,11 @@ struct FolderIdentity {
 
     bool operator==(const FolderIdentity&) const = default;
 
+    /// The mounts alone tell where both are known: the subvolumes of one mount, which removal may
+    /// enter, have devices of their own.
     [[nodiscard]] bool sharesMountWith(const FolderIdentity& other) const {
-        return device == other.device && mount == other.mount;
+        const bool areMountsKnown = mount != 0 && other.mount != 0;
+        return areMountsKnown ? mount == other.mount : device == other.device;
     }
 
     /// What a status tells: not the mount.

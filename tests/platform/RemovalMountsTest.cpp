@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <functional>
 #include <string>
 
@@ -89,6 +90,25 @@ TEST(RemovalOnAMount, removes_an_item_that_lies_on_it_whole) {
     expectWithPrivateMounts([&] {
         return mountMemory(mount, "64k") && !scratch.file("mount/item/folder/file", 1).empty() &&
                !FileManager::removeItem(mount + "/item") && !isThere(mount + "/item");
+    });
+}
+
+// A subvolume of Btrfs, as a "~/.cache" kept out of snapshots is one, was once taken for a mount.
+TEST(RemovalOfASubvolume, removes_it_with_all_that_is_in_it_subvolumes_too) {
+    const ScratchFolder scratch;
+    const std::string home = scratch.folder("home");
+    const auto isMounted = test::holdsWithPrivateMounts([&] { return test::mountBtrfs(home); });
+    if (!isMounted.value_or(false)) {
+        GTEST_SKIP() << "no Btrfs can be made and mounted here";
+    }
+    const std::string commands = "cd " + home +
+                                 " && btrfs --quiet subvolume create .cache"
+                                 " && mkdir .cache/folder && touch .cache/folder/file"
+                                 " && btrfs --quiet subvolume create .cache/folder/inner"
+                                 " && touch .cache/folder/inner/file";
+    expectWithPrivateMounts([&] {
+        return test::mountBtrfs(home) && std::system(commands.c_str()) == 0 &&
+               !FileManager::removeItem(home + "/.cache") && !isThere(home + "/.cache");
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <fstream>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -66,6 +67,14 @@ bool mountMemory(const std::string& path, const std::string& size) {
     return ::mount("tmpfs", path.c_str(), "tmpfs", 0, ("size=" + size).c_str()) == 0;
 }
 
+bool mountBtrfs(const std::string& path) {
+    const std::string image = path + ".image";
+    const std::string commands = "exec >/dev/null 2>&1; truncate -s 128M " + image +
+                                 " && mkfs.btrfs -f " + image + " && mount -o loop " + image + " " +
+                                 path;
+    return std::system(commands.c_str()) == 0;
+}
+
 bool mountAgain(const std::string& source, const std::string& path) {
     return ::mount(source.c_str(), path.c_str(), nullptr, MS_BIND, nullptr) == 0;
 }
@@ -73,6 +82,10 @@ bool mountAgain(const std::string& source, const std::string& path) {
 #else
 
 bool mountMemory(const std::string& /*path*/, const std::string& /*size*/) {
+    return false;
+}
+
+bool mountBtrfs(const std::string& /*path*/) {
     return false;
 }
 

@@ -15,6 +15,9 @@ std::optional<bool> holdsWithPrivateMounts(const std::function<bool()>& job);
 /// Mounts an empty file system in memory of `size` bytes over the folder at `path`.
 bool mountMemory(const std::string& path, const std::string& size);
 
+/// Mounts an empty Btrfs over the folder at `path`, which takes its tools and a loop device.
+bool mountBtrfs(const std::string& path);
+
 /// Shows the file or folder at `source` at `path` too.
 bool mountAgain(const std::string& source, const std::string& path);
 
