@@ -1,8 +1,8 @@
 #include "scanner/DiskScanner.h"
 #include "scanner/Scans.h"
 #include "support/Limits.h"
-#include "support/PrivateMount.h"
 #include "support/ScratchFolder.h"
+#include "support/SystemCalls.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -49,13 +49,13 @@ TEST(LogScan, lists_system_logs_that_the_user_may_not_remove) {
     const ScratchFolder logs;
     logs.file("syslog", 2'000'000);
     ASSERT_EQ(::chmod(logs.path().c_str(), 0555), 0);
-    test::checkWithFolderOver("/var/log", logs.path(), [] {
-        EXPECT_TRUE(test::holdsForOrdinaryUser([] {
-            const ScratchFolder home;
-            return ::access("/var/log", W_OK) != 0 && namesOf(DiskScanner::scanLogs(home.path())) ==
-                                                          std::vector<std::string>{"System Logs"};
-        }));
-    });
+    const test::StandInFolder systemLogs("/var/log", logs.path());
+    EXPECT_TRUE(test::holdsForOrdinaryUser([&logs] {
+        const ScratchFolder home;
+        return ::access(logs.path().c_str(), W_OK) != 0 &&
+               namesOf(DiskScanner::scanLogs(home.path())) ==
+                   std::vector<std::string>{"System Logs"};
+    }));
     ASSERT_EQ(::chmod(logs.path().c_str(), 0755), 0); // so that it can go
 }
 

@@ -13,7 +13,7 @@ namespace drossbin::test {
 void setModificationDate(const std::string& path, Date date);
 
 /// Runs `check` where "/var/log" holds nothing but a file of `size` bytes, or nothing at all when
-/// that is 0. Skips the test where this cannot be arranged: no test looks at the real one.
+/// that is 0: no test looks at the real one.
 void checkWithSystemLogs(std::int64_t size, const std::function<void()>& check);
 
 /// The date that `checkWithSystemLogs` gives to the folder.

@@ -1,10 +1,12 @@
 #include "support/SystemCalls.h"
 
+#include <atomic>
 #include <cerrno>
 #include <cstdarg>
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -19,6 +21,7 @@ namespace {
 
 thread_local const SystemCallHook::Hook* currentHook = nullptr;
 thread_local bool hidesKinds = false;
+std::atomic<const StandInFolder*> standIn = nullptr;
 
 /// Whether the call may go on; if not, `errno` is set. What the hook itself does leaves no trace
 /// in `errno`: it belongs to the caller, who is about to find out what only its own call did.
@@ -29,6 +32,11 @@ bool isLetThrough(const SystemCallHook::Call& call) {
     currentHook = hook;
     errno = error != 0 ? error : before;
     return error == 0;
+}
+
+const char* ledFrom(const char* path) {
+    const StandInFolder* const folder = standIn;
+    return folder != nullptr ? folder->pathFor(path) : path;
 }
 
 template <class Function>
@@ -52,6 +60,20 @@ void SystemCallHook::hideKinds() {
     hidesKinds = true;
 }
 
+StandInFolder::StandInFolder(std::string place, std::string folder)
+    : m_place(std::move(place))
+    , m_folder(std::move(folder)) {
+    standIn = this;
+}
+
+StandInFolder::~StandInFolder() {
+    standIn = nullptr;
+}
+
+const char* StandInFolder::pathFor(const char* path) const {
+    return m_place == path ? m_folder.c_str() : path;
+}
+
 std::vector<std::string> namesOpenedBy(const std::function<void()>& job, bool hidesKinds) {
     std::vector<std::string> names;
     SystemCallHook hook([&](const SystemCallHook::Call& call) {
@@ -71,6 +93,7 @@ std::vector<std::string> namesOpenedBy(const std::function<void()>& job, bool hi
 } // namespace drossbin::test
 
 using drossbin::test::isLetThrough;
+using drossbin::test::ledFrom;
 using drossbin::test::systemFunction;
 
 // NOLINTBEGIN: the names and signatures are the system's
@@ -83,7 +106,7 @@ int openat(int folder, const char* name, int flags, ...) {
     va_start(arguments, flags);
     const auto mode = (flags & O_CREAT) != 0 ? va_arg(arguments, unsigned int) : 0U;
     va_end(arguments);
-    return isLetThrough({"openat", name}) ? next(folder, name, flags, mode) : -1;
+    return isLetThrough({"openat", name}) ? next(folder, ledFrom(name), flags, mode) : -1;
 }
 
 int unlinkat(int folder, const char* name, int flags) __THROW {
@@ -99,6 +122,11 @@ int fstatat(int folder, const char* name, struct stat* status, int flags) __THRO
 int fstat(int file, struct stat* status) __THROW {
     static const auto next = systemFunction(&fstat, "fstat");
     return isLetThrough({"fstat", ""}) ? next(file, status) : -1;
+}
+
+int lstat(const char* path, struct stat* status) __THROW {
+    static const auto next = systemFunction(&lstat, "lstat");
+    return isLetThrough({"lstat", path}) ? next(ledFrom(path), status) : -1;
 }
 
 ssize_t write(int file, const void* bytes, size_t size) {
@@ -119,6 +147,11 @@ int renameat(int from, const char* oldName, int to, const char* newName) __THROW
 int mkdir(const char* path, mode_t mode) __THROW {
     static const auto next = systemFunction(&mkdir, "mkdir");
     return isLetThrough({"mkdir", path}) ? next(path, mode) : -1;
+}
+
+int getpwuid_r(uid_t user, struct passwd* entry, char* buffer, size_t size, struct passwd** found) {
+    static const auto next = systemFunction(&getpwuid_r, "getpwuid_r");
+    return isLetThrough({"getpwuid_r", ""}) ? next(user, entry, buffer, size, found) : errno;
 }
 
 #ifdef __linux__

@@ -8,11 +8,12 @@
 
 namespace drossbin::test {
 
-/// While it lives, `hook` is asked before each call that this thread makes to the file system: it
-/// may make the call fail, shorten it, or change the disk in between. Its own calls go through.
+/// While it lives, `hook` is asked before each call that this thread makes to the file system or
+/// the user database: it may make the call fail, shorten it, or change the disk in between. Its own
+/// calls go through.
 ///
 /// A program that uses this has functions of its own in front of the system's: openat, unlinkat,
-/// fstatat, fstat, statx, getdents64, write, fsync, renameat and mkdir.
+/// fstatat, fstat, lstat, statx, getdents64, write, fsync, renameat, mkdir and getpwuid_r.
 class SystemCallHook {
   public:
     struct Call {
@@ -36,6 +37,25 @@ class SystemCallHook {
 
   private:
     Hook m_hook;
+};
+
+/// While it lives, every thread that opens the folder at `place`, or asks about its entry, is led
+/// to the one at `folder` instead. One at a time.
+class StandInFolder {
+  public:
+    StandInFolder(std::string place, std::string folder);
+    ~StandInFolder();
+    StandInFolder(const StandInFolder&) = delete;
+    StandInFolder& operator=(const StandInFolder&) = delete;
+    StandInFolder(StandInFolder&&) = delete;
+    StandInFolder& operator=(StandInFolder&&) = delete;
+
+    /// Where a call about `path` is led to.
+    const char* pathFor(const char* path) const;
+
+  private:
+    std::string m_place;
+    std::string m_folder;
 };
 
 /// The names that `job` opens. Where `hidesKinds`, folders keep those of their entries back.
