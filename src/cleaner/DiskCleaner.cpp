@@ -7,11 +7,18 @@
 #include "platform/MainThread.h"
 
 #include <cstddef>
+#include <optional>
 #include <system_error>
 
 namespace drossbin {
 
 namespace {
+
+/// Absent where nobody knows the home folder: then there is no log.
+std::optional<std::string> logFolder() {
+    const auto home = FileManager::homeDirectoryForCurrentUser();
+    return home ? std::optional(*home + "/Library/Logs/Drossbin") : std::nullopt;
+}
 
 void report(const DiskCleaner::Progress& progress, double fraction, const std::string& text) {
     MainThread::post([=] { progress(fraction, text); });
@@ -33,12 +40,13 @@ void remove(const DiskItem& item, DiskCleaner::Outcome& outcome) {
 
 DiskCleaner::Outcome DiskCleaner::deleteItems(const std::vector<DiskItem>& items,
                                               const Progress& progress, const Clock& clock) {
-    const std::string logFolder =
-        FileManager::homeDirectoryForCurrentUser() + "/Library/Logs/Drossbin";
-    // Failures of the log's folder and file are let go: the user asked for space, and where there
-    // is none left, or no permission, a log is no reason to refuse it.
-    FileManager::createDirectory(logFolder);
-    const std::string logPath = deletionlog::path(logFolder, clock());
+    const auto folder = logFolder();
+    if (folder) {
+        // Failures of the log's folder and file are let go: the user asked for space, and where
+        // there is none left, or no permission, a log is no reason to refuse it.
+        FileManager::createDirectory(*folder);
+    }
+    const Date nameDate = clock();
     const Date headerDate = clock();
 
     Outcome outcome;
@@ -51,10 +59,12 @@ DiskCleaner::Outcome DiskCleaner::deleteItems(const std::vector<DiskItem>& items
     }
     report(progress, 1.0, "Cleanup complete");
 
-    // Again, because the folder may have been among the items: all log folders are one of them.
-    FileManager::createDirectory(logFolder);
-    FileManager::writeAtomically(deletionlog::text(headerDate, outcome.log, outcome.bytesFreed),
-                                 logPath);
+    if (folder) {
+        // Again, because it may have been among the items: all log folders are one of them.
+        FileManager::createDirectory(*folder);
+        FileManager::writeAtomically(deletionlog::text(headerDate, outcome.log, outcome.bytesFreed),
+                                     deletionlog::path(*folder, nameDate));
+    }
     return outcome;
 }
 

@@ -25,7 +25,8 @@ class DiskCleaner {
 
     /// Removes `items` one after another, posts a report to the main thread before each and one
     /// at the end without waiting for any, and writes the deletion log last. Blocks; call it off
-    /// the main thread. Failures become lines of the log; a log that cannot be written is let go.
+    /// the main thread. Failures become lines of the log; a log that cannot be written, or has no
+    /// place because the home folder is unknown, is let go.
     static Outcome deleteItems(const std::vector<DiskItem>& items, const Progress& progress,
                                const Clock& clock = now);
 };

@@ -34,6 +34,11 @@ std::string withoutTrailingSlashes(std::string path) {
     return path;
 }
 
+std::string homeDirectoryInEnvironment() {
+    const char* const home = std::getenv("HOME");
+    return home != nullptr ? home : "";
+}
+
 std::string homeDirectoryInUserDatabase() {
     std::array<char, 16384> buffer{};
     passwd entry{};
@@ -78,10 +83,14 @@ std::error_code createOneDirectory(const std::string& path) {
 
 } // namespace
 
-std::string FileManager::homeDirectoryForCurrentUser() {
-    const char* home = std::getenv("HOME");
-    const bool isAbsolute = home != nullptr && *home == '/';
-    return withoutTrailingSlashes(isAbsolute ? home : homeDirectoryInUserDatabase());
+std::optional<std::string> FileManager::homeDirectoryForCurrentUser() {
+    for (const auto& source : {homeDirectoryInEnvironment, homeDirectoryInUserDatabase}) {
+        std::string home = source();
+        if (home.starts_with('/')) {
+            return withoutTrailingSlashes(std::move(home));
+        }
+    }
+    return std::nullopt;
 }
 
 FileManager::Existence FileManager::existence(const std::string& path) {

@@ -22,8 +22,8 @@ class FileManager {
     };
 
     /// The home folder, without a trailing slash ("" for a home at "/"): `HOME` where it holds an
-    /// absolute path, else the user database's entry.
-    static std::string homeDirectoryForCurrentUser();
+    /// absolute path, else the user database's entry where that does, else absent.
+    static std::optional<std::string> homeDirectoryForCurrentUser();
 
     /// What `path` leads to, links followed; everything that is no folder is a file. `missing`
     /// also for a dangling link and for a path that may not be searched.

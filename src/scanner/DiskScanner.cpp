@@ -28,12 +28,13 @@ constexpr std::array<Step, 5> steps{{
 } // namespace
 
 std::vector<DiskItem> DiskScanner::scan(const Progress& progress) {
-    const std::string home = FileManager::homeDirectoryForCurrentUser();
+    // Without a home folder every step finds nothing: its locations would become the root's.
+    const auto home = FileManager::homeDirectoryForCurrentUser();
     std::vector<DiskItem> all;
     std::int64_t bytesFound = 0;
     for (const Step& step : steps) {
         progress(step.fraction, step.text, bytesFound);
-        std::vector<DiskItem> found = step.find(home);
+        std::vector<DiskItem> found = home ? step.find(*home) : std::vector<DiskItem>();
         for (const DiskItem& item : found) {
             bytesFound = checkedSum(bytesFound, item.size);
         }

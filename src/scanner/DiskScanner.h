@@ -27,7 +27,8 @@ class DiskScanner {
                                                                     "Keychains", "Preferences"};
 
     /// Runs the five category scans one after another, a report before each and one at the end,
-    /// and returns all items, largest first, equal sizes in the order found.
+    /// and returns all items, largest first, equal sizes in the order found. Where the home folder
+    /// is unknown the reports are made, and nothing is looked at.
     static std::vector<DiskItem> scan(const Progress& progress);
 
     /// The bytes of a file (of a link itself, where it leads to no folder) or of everything below

@@ -1,4 +1,5 @@
 #include "CleanerFixture.h"
+#include "support/UnknownHome.h"
 
 #include <gmock/gmock.h>
 
@@ -44,6 +45,15 @@ TEST_F(DeletionLogTest, is_named_after_the_clock_and_headed_after_another_look_a
         [&] { return test::march + std::chrono::seconds(looks++); });
     EXPECT_EQ(looks, 2);
     EXPECT_EQ(log(), "Drossbin Deletion Log — 2026-03-01 14:05:10 +0000\n\n\nTotal freed: Zero KB");
+}
+
+// The root was once taken for the home folder.
+TEST_F(DeletionLogTest, is_written_nowhere_where_nobody_knows_the_home_folder) {
+    const std::string path = m_home.file("file", 1);
+    const test::UnknownHome unknown;
+    EXPECT_THAT(run({makeItem(path, "file", 1)}).log, ElementsAre("✅ Deleted: file (1 byte)"));
+    EXPECT_FALSE(isThere(path));
+    EXPECT_THAT(unknown.refused(), testing::IsEmpty());
 }
 
 TEST_F(DeletionLogTest, of_a_second_run_in_the_same_second_takes_the_place_of_the_first) {

@@ -2,6 +2,7 @@
 
 #include "support/ScratchFolder.h"
 #include "support/SystemCalls.h"
+#include "support/UnknownHome.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -53,11 +54,27 @@ TEST(HomeDirectory, is_empty_for_a_home_at_the_root) {
 TEST(HomeDirectory, comes_from_the_user_database_when_HOME_is_missing_or_not_absolute) {
     const ScratchHome home;
     const passwd* const user = ::getpwuid(::getuid());
-    const std::string expected = user != nullptr ? user->pw_dir : "";
+    const auto expected = user != nullptr ? std::optional<std::string>(user->pw_dir) : std::nullopt;
     ::setenv("HOME", "relative/home", 1);
     EXPECT_EQ(FileManager::homeDirectoryForCurrentUser(), expected);
     ::unsetenv("HOME");
     EXPECT_EQ(FileManager::homeDirectoryForCurrentUser(), expected);
+}
+
+// It was once the same as a home at the root.
+TEST(HomeDirectory, is_absent_where_neither_HOME_nor_the_user_database_holds_an_absolute_path) {
+    const test::UnknownHome unknown;
+    EXPECT_EQ(FileManager::homeDirectoryForCurrentUser(), std::nullopt);
+    for (const char* home : {"", "relative/home", " /home"}) {
+        ::setenv("HOME", home, 1);
+        EXPECT_EQ(FileManager::homeDirectoryForCurrentUser(), std::nullopt) << home;
+    }
+}
+
+TEST(HomeDirectory, comes_from_HOME_alone_where_the_user_database_has_no_entry) {
+    const test::UnknownHome unknown;
+    ::setenv("HOME", "/home/somebody", 1);
+    EXPECT_EQ(FileManager::homeDirectoryForCurrentUser(), "/home/somebody");
 }
 
 TEST(Existence, tells_files_folders_and_nothing_apart) {

@@ -3,6 +3,7 @@
 #include "scanner/Scans.h"
 #include "support/ImmenseFiles.h"
 #include "support/ScratchFolder.h"
+#include "support/UnknownHome.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -77,6 +78,22 @@ TEST(DiskScanner, reports_before_each_step_the_bytes_of_the_steps_before) {
                                 Report{1.0, "Scan complete", 12'700'030}));
         EXPECT_THAT(namesOf(result.items),
                     ElementsAre("Notes", "System Logs", "cache", "User Logs", "old", "npm cache"));
+    });
+}
+
+// The root was once taken for it: "/.cache" and "/Downloads" were offered.
+TEST(DiskScanner, looks_at_nothing_where_nobody_knows_the_home_folder) {
+    checkWithSystemLogs(2'000'000, [] {
+        const test::UnknownHome unknown;
+        const Scan result = scan();
+        EXPECT_THAT(unknown.refused(), IsEmpty());
+        EXPECT_THAT(result.items, IsEmpty());
+        EXPECT_THAT(result.reports, ElementsAre(Report{0.2, "Scanning program caches...", 0},
+                                                Report{0.4, "Scanning package caches...", 0},
+                                                Report{0.6, "Scanning app data...", 0},
+                                                Report{0.8, "Scanning logs...", 0},
+                                                Report{1.0, "Scanning old downloads...", 0},
+                                                Report{1.0, "Scan complete", 0}));
     });
 }
 
