@@ -28,7 +28,11 @@ class ChangePublisher {
     }
 
     void send(Change change) {
-        std::erase_if(m_listeners, [](const auto& listener) { return listener.expired(); });
+        // A listener may make another change: the list must then not move under this walk.
+        const bool isNested = std::exchange(m_isSending, true);
+        if (!isNested) {
+            std::erase_if(m_listeners, [](const auto& listener) { return listener.expired(); });
+        }
         // A listener may subscribe another, which hears of the next change.
         const std::size_t count = m_listeners.size();
         for (std::size_t index = 0; index < count; ++index) {
@@ -36,10 +40,12 @@ class ChangePublisher {
                 (*subscribed)(change);
             }
         }
+        m_isSending = isNested;
     }
 
   private:
     std::vector<std::weak_ptr<const Listener>> m_listeners;
+    bool m_isSending = false;
 };
 
 } // namespace drossbin

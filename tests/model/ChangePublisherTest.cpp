@@ -64,6 +64,34 @@ TEST(ChangePublisher, lets_a_listener_subscribe_others_while_it_hears) {
     EXPECT_EQ(heard, std::vector<int>(10, 2));
 }
 
+// A change that was sent while another was under way once took the gone subscriptions out of the
+// list that the other still walked: it left some out, and read past the end.
+TEST(ChangePublisher, tells_all_others_when_a_listener_ends_subscriptions_and_makes_a_change) {
+    Publisher publisher;
+    std::vector<std::string> heard;
+    const auto subscribe = [&](const std::string& name) {
+        return publisher.subscribe(
+            [&heard, name](int change) { heard.push_back(name + " " + std::to_string(change)); });
+    };
+    auto before = subscribe("before");
+    Publisher::Subscription after;
+    const auto writer = publisher.subscribe([&](int change) {
+        heard.push_back("writer " + std::to_string(change));
+        if (change == 1) {
+            before.reset();
+            after.reset();
+            publisher.send(2);
+        }
+    });
+    after = subscribe("after");
+    const auto last = subscribe("last");
+    const auto veryLast = subscribe("very last");
+    publisher.send(1);
+    publisher.send(3);
+    EXPECT_THAT(heard, ElementsAre("before 1", "writer 1", "writer 2", "last 2", "very last 2",
+                                   "last 1", "very last 1", "writer 3", "last 3", "very last 3"));
+}
+
 TEST(ChangePublisher, may_go_before_its_subscriptions) {
     Publisher::Subscription subscription;
     {
