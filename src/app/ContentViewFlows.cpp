@@ -57,7 +57,7 @@ QCoro::Task<std::vector<DiskItem>> ContentView::scanDemo() {
 void ContentView::chooseCategory() {
     const auto* const found =
         std::ranges::find_if(allDiskCategories, [this](DiskCategory category) {
-            return !m_scanResult.itemsFor(category).empty();
+            return m_scanResult.hasItemsFor(category);
         });
     if (found != allDiskCategories.end()) {
         setSelectedCategory(static_cast<int>(*found));

@@ -4,8 +4,21 @@
 #include "platform/CheckedSum.h"
 
 #include <algorithm>
+#include <iterator>
+#include <ranges>
 
 namespace drossbin {
+
+namespace {
+
+/// The category's items that `filter` lets through, without a copy of any.
+auto viewOf(const std::vector<DiskItem>& items, DiskCategory category, const ItemFilter& filter) {
+    return std::views::filter(items, [category, &filter](const DiskItem& item) {
+        return item.category == category && filter.passes(item);
+    });
+}
+
+} // namespace
 
 std::int64_t ScanResult::totalSize() const {
     std::int64_t total = 0;
@@ -27,21 +40,23 @@ std::size_t ScanResult::selectedCount() const {
     return static_cast<std::size_t>(std::ranges::count(items.get(), true, &DiskItem::isSelected));
 }
 
-std::vector<const DiskItem*> ScanResult::itemsFor(DiskCategory category) const {
+std::vector<DiskItem> ScanResult::itemsFor(DiskCategory category) const {
     const ItemFilter filter(searchText.get());
-    std::vector<const DiskItem*> found;
-    for (const DiskItem& item : items.get()) {
-        if (item.category == category && filter.passes(item)) {
-            found.push_back(&item);
-        }
-    }
+    std::vector<DiskItem> found;
+    std::ranges::copy(viewOf(items, category, filter), std::back_inserter(found));
     return found;
 }
 
+bool ScanResult::hasItemsFor(DiskCategory category) const {
+    const ItemFilter filter(searchText.get());
+    return !viewOf(items, category, filter).empty();
+}
+
 std::int64_t ScanResult::categorySize(DiskCategory category) const {
+    const ItemFilter filter(searchText.get());
     std::int64_t total = 0;
-    for (const DiskItem* item : itemsFor(category)) {
-        total = checkedSum(total, item->size);
+    for (const DiskItem& item : viewOf(items, category, filter)) {
+        total = checkedSum(total, item.size);
     }
     return total;
 }

@@ -57,9 +57,11 @@ class ScanResult {
     [[nodiscard]] std::int64_t selectedSize() const;
     [[nodiscard]] std::size_t selectedCount() const;
 
-    /// The category's items whose name or path contains the search text, in list order. The
-    /// pointers hold until the next write of `items`.
-    [[nodiscard]] std::vector<const DiskItem*> itemsFor(DiskCategory category) const;
+    /// The category's items whose name or path contains the search text, in list order.
+    [[nodiscard]] std::vector<DiskItem> itemsFor(DiskCategory category) const;
+
+    /// Whether there are any of `itemsFor(category)`.
+    [[nodiscard]] bool hasItemsFor(DiskCategory category) const;
 
     /// The bytes of `itemsFor(category)`; follows the search text.
     [[nodiscard]] std::int64_t categorySize(DiskCategory category) const;

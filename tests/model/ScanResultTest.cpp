@@ -22,8 +22,8 @@ DiskItem item(const char* name, std::int64_t size, DiskCategory category, bool i
 
 std::vector<std::string> namesFor(const ScanResult& result, DiskCategory category) {
     std::vector<std::string> names;
-    for (const DiskItem* found : result.itemsFor(category)) {
-        names.push_back(found->name);
+    for (const DiskItem& found : result.itemsFor(category)) {
+        names.push_back(found.name);
     }
     return names;
 }
@@ -52,7 +52,8 @@ TEST(ScanResult, totals_nothing_when_there_are_no_items) {
     EXPECT_EQ(result.selectedCount(), 0U);
     for (const DiskCategory category : allDiskCategories) {
         EXPECT_EQ(result.categorySize(category), 0);
-        EXPECT_THAT(result.itemsFor(category), IsEmpty());
+        EXPECT_TRUE(result.itemsFor(category).empty());
+        EXPECT_FALSE(result.hasItemsFor(category));
     }
 }
 
@@ -82,6 +83,24 @@ TEST_F(FilledScanResult, lists_the_items_of_a_category_in_their_order) {
                 ElementsAre("Safari", "Slack", "Notes"));
     EXPECT_THAT(namesFor(result, DiskCategory::appData), ElementsAre("Chrome"));
     EXPECT_THAT(namesFor(result, DiskCategory::logFiles), IsEmpty());
+}
+
+// Pointers to them once outlived the list.
+TEST_F(FilledScanResult, gives_items_that_outlive_the_next_write) {
+    const auto items = result.itemsFor(DiskCategory::appData);
+    result.items = {};
+    ASSERT_EQ(items.size(), 1U);
+    EXPECT_EQ(items[0].name, "Chrome");
+    EXPECT_EQ(items[0].size, 70);
+    EXPECT_TRUE(items[0].isSelected);
+}
+
+TEST_F(FilledScanResult, has_items_for_a_category_as_the_search_text_leaves_some) {
+    EXPECT_TRUE(result.hasItemsFor(DiskCategory::appData));
+    EXPECT_FALSE(result.hasItemsFor(DiskCategory::logFiles));
+    result.searchText = "safari";
+    EXPECT_TRUE(result.hasItemsFor(DiskCategory::programCaches));
+    EXPECT_FALSE(result.hasItemsFor(DiskCategory::appData));
 }
 
 TEST_F(FilledScanResult, narrows_a_category_to_names_with_the_search_text_in_any_case) {
