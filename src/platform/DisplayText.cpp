@@ -11,12 +11,19 @@ namespace drossbin {
 
 namespace {
 
+/// The marks U+200E, U+200F and U+061C act like a letter without a width. Right-to-left names carry
+/// them, and they turn nothing around.
+bool isDirectionMark(UChar32 character) {
+    return character == 0x200E || character == 0x200F || character == 0x061C;
+}
+
 /// Whether a character would break the line or change the order of the text around it. Joiners and
 /// other format characters do neither: Persian words and many emoji need them.
 bool isDisruptive(UChar32 character) {
     constexpr std::uint32_t breaksLine = U_GC_CC_MASK | U_GC_ZL_MASK | U_GC_ZP_MASK;
+    const bool turnsText = u_hasBinaryProperty(character, UCHAR_BIDI_CONTROL) != 0;
     return (U_GET_GC_MASK(character) & breaksLine) != 0 ||
-           u_hasBinaryProperty(character, UCHAR_BIDI_CONTROL) != 0;
+           (turnsText && !isDirectionMark(character));
 }
 
 icu::UnicodeString escape(UChar32 character) {

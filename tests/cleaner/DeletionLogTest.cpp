@@ -1,4 +1,5 @@
 #include "CleanerFixture.h"
+#include "support/ScopedTimeZone.h"
 #include "support/UnknownHome.h"
 
 #include <gmock/gmock.h>
@@ -97,6 +98,18 @@ TEST_F(DeletionLogTest, keeps_one_line_for_an_item_whose_name_holds_control_char
                      "✅ Deleted: a\\n✅ Deleted: b (1 byte)\n"
                      "\n"
                      "Total freed: 1 byte");
+}
+
+TEST_F(DeletionLogTest, keeps_one_line_for_every_character_that_ends_one) {
+    const std::string name = "a\v\f\r\u0085\u2028\u2029b";
+    const auto outcome = run({makeItem(m_home.file("file", 1), name, 1)});
+    EXPECT_THAT(outcome.log, ElementsAre(R"(✅ Deleted: a\x0B\x0C\r\x85\u2028\u2029b (1 byte))"));
+}
+
+TEST_F(DeletionLogTest, keeps_the_marks_of_direction_that_right_to_left_names_carry) {
+    const std::string name = "\u200Fתמונה\u200E \u061C1";
+    const auto outcome = run({makeItem(m_home.file("file", 1), name, 1)});
+    EXPECT_THAT(outcome.log, ElementsAre("✅ Deleted: " + name + " (1 byte)"));
 }
 
 TEST_F(DeletionLogTest, shows_bytes_that_are_no_text_as_replacement_characters) {

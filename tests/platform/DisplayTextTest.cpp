@@ -31,8 +31,14 @@ TEST(DisplayText, shows_the_second_block_of_control_characters_as_escapes) {
 TEST(DisplayText, shows_bidirectional_controls_as_escapes) {
     EXPECT_EQ(displayText("\u202A\u202B\u202C\u202D\u202E"), R"(\u202A\u202B\u202C\u202D\u202E)");
     EXPECT_EQ(displayText("\u2066\u2067\u2068\u2069"), R"(\u2066\u2067\u2068\u2069)");
-    EXPECT_EQ(displayText("\u200E\u200F\u061C"), R"(\u200E\u200F\u061C)");
     EXPECT_EQ(displayText("photo\u202Egnp.exe"), R"(photo\u202Egnp.exe)");
+}
+
+// They were once shown as escapes, in the middle of every name that carries them.
+TEST(DisplayText, keeps_the_plain_marks_of_direction_that_right_to_left_names_carry) {
+    for (const std::string name : {"\u200Fתמונה 1.jpg\u200E", "صورة\u061C (1).png", "\u200F"}) {
+        EXPECT_EQ(displayText(name), name);
+    }
 }
 
 TEST(DisplayText, shows_line_and_paragraph_separators_as_escapes) {
