@@ -2,7 +2,6 @@
 
 #include "cleaner/DeletionLog.h"
 #include "platform/CheckedSum.h"
-#include "platform/DisplayText.h"
 #include "platform/FileManager.h"
 #include "platform/MainThread.h"
 
@@ -53,8 +52,7 @@ DiskCleaner::Outcome DiskCleaner::deleteItems(const std::vector<DiskItem>& items
     const auto count = static_cast<double>(items.size());
     for (std::size_t index = 0; index < items.size(); ++index) {
         const DiskItem& item = items[index];
-        report(progress, static_cast<double>(index) / count,
-               "Deleting " + displayText(item.name) + "...");
+        report(progress, static_cast<double>(index) / count, "Deleting " + item.name + "...");
         remove(item, outcome);
     }
     report(progress, 1.0, "Cleanup complete");

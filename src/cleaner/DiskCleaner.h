@@ -14,7 +14,8 @@ namespace drossbin {
 /// given and still exists is removed.
 class DiskCleaner {
   public:
-    /// Called on the main thread with the share done (0 to 1) and the text of the step.
+    /// Called on the main thread with the share done (0 to 1) and the text of the step, in which
+    /// the item's name stands as it is: raw bytes.
     using Progress = std::function<void(double fraction, const std::string& text)>;
     using Clock = std::function<Date()>;
 

@@ -94,6 +94,14 @@ TEST_F(DiskCleanerTest, reports_before_each_item_and_once_at_the_end) {
                             Pair(2.0 / 3.0, "Deleting c..."), Pair(1.0, "Cleanup complete")));
 }
 
+TEST_F(DiskCleanerTest, reports_a_name_as_it_is) {
+    const std::string name = "a\nb\xFF\u202E";
+    run({makeItem(m_home.file("file", 1), name, 1)});
+    m_mainThread.turn();
+    EXPECT_THAT(m_reports,
+                ElementsAre(Pair(0.0, "Deleting " + name + "..."), Pair(1.0, "Cleanup complete")));
+}
+
 // The whole run ends while nobody turns the queue; the reports then come on the main thread.
 TEST_F(DiskCleanerTest, never_waits_for_a_report_nor_makes_one_on_its_own_thread) {
     const std::vector<DiskItem> items{makeItem(m_home.file("file", 1), "file", 1)};
