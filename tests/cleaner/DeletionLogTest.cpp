@@ -48,6 +48,12 @@ TEST_F(DeletionLogTest, is_named_after_the_clock_and_headed_after_another_look_a
     EXPECT_EQ(log(), "Drossbin Deletion Log — 2026-03-01 14:05:10 +0000\n\n\nTotal freed: Zero KB");
 }
 
+TEST_F(DeletionLogTest, is_named_and_headed_in_utc_wherever_the_machine_is) {
+    const test::ScopedTimeZone zone("Asia/Kolkata");
+    run({});
+    EXPECT_EQ(log(), "Drossbin Deletion Log — 2026-03-01 14:05:09 +0000\n\n\nTotal freed: Zero KB");
+}
+
 // The root was once taken for the home folder.
 TEST_F(DeletionLogTest, is_written_nowhere_where_nobody_knows_the_home_folder) {
     const std::string path = m_home.file("file", 1);

@@ -94,6 +94,29 @@ TEST_F(DiskCleanerTest, reports_before_each_item_and_once_at_the_end) {
                             Pair(2.0 / 3.0, "Deleting c..."), Pair(1.0, "Cleanup complete")));
 }
 
+// Each report is made here as soon as it is posted, and looks at the disk.
+TEST_F(DiskCleanerTest, makes_the_logs_folder_then_reports_and_removes_and_writes_the_log_last) {
+    const std::string a = m_home.file("a", 1);
+    const std::string b = m_home.file("b", 1);
+    std::vector<std::string> steps;
+    const auto note = [&](const std::string& step) {
+        steps.push_back(step + (isThere(logFolder()) ? " folder" : "") + (isThere(a) ? " a" : "") +
+                        (isThere(b) ? " b" : "") + (isThere(logPath()) ? " log" : ""));
+    };
+    MainThread::connect([](const MainThread::Job& job) { job(); });
+    DiskCleaner::deleteItems(
+        {makeItem(a, "A", 1), makeItem(b, "B", 1)},
+        [&](double, const std::string& text) { note(text); },
+        [&] {
+            note("clock:");
+            return test::march;
+        });
+    EXPECT_THAT(steps,
+                ElementsAre("clock: folder a b", "clock: folder a b", "Deleting A... folder a b",
+                            "Deleting B... folder b", "Cleanup complete folder"));
+    EXPECT_TRUE(isThere(logPath()));
+}
+
 TEST_F(DiskCleanerTest, reports_a_name_as_it_is) {
     const std::string name = "a\nb\xFF\u202E";
     run({makeItem(m_home.file("file", 1), name, 1)});

@@ -1,6 +1,10 @@
 #include "platform/ISO8601DateFormatter.h"
 
+#include "support/ScopedTimeZone.h"
+
 #include <gtest/gtest.h>
+
+#include <ctime>
 
 namespace drossbin {
 namespace {
@@ -13,6 +17,14 @@ constexpr Date sample = sys_days{2026y / 3 / 1} + 14h + 5min + 9s;
 TEST(ISO8601DateFormatter, writes_utc_to_the_second) {
     EXPECT_EQ(ISO8601DateFormatter::string(sample), "2026-03-01T14:05:09Z");
     EXPECT_EQ(ISO8601DateFormatter::string(Date{}), "1970-01-01T00:00:00Z");
+}
+
+TEST(ISO8601DateFormatter, writes_utc_wherever_the_machine_is) {
+    const test::ScopedTimeZone zone("Asia/Kolkata");
+    const std::time_t sampleTime = std::chrono::system_clock::to_time_t(sample);
+    ASSERT_EQ(std::localtime(&sampleTime)->tm_hour, 19) << "the system knows no time zones";
+    EXPECT_EQ(ISO8601DateFormatter::string(sample), "2026-03-01T14:05:09Z");
+    EXPECT_EQ(dateDescription(sample), "2026-03-01 14:05:09 +0000");
 }
 
 TEST(ISO8601DateFormatter, cuts_fractions_of_a_second_off) {
