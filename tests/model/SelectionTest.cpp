@@ -77,6 +77,17 @@ TEST_F(Selection, never_takes_a_critical_item_by_a_toggle) {
     EXPECT_THAT(selected(), IsEmpty());
 }
 
+TEST_F(Selection, is_flipped_or_not_as_the_given_item_says_whatever_the_list_says) {
+    DiskItem critical = at(0);
+    critical.risk = RiskLevel::critical;
+    result.toggleSelectionFor(critical);
+    EXPECT_THAT(selected(), IsEmpty());
+    DiskItem safe = at(2);
+    safe.risk = RiskLevel::safe;
+    result.toggleSelectionFor(safe);
+    EXPECT_THAT(selected(), ElementsAre(2));
+}
+
 TEST_F(Selection, ignores_a_toggle_of_an_item_that_is_not_there) {
     const DiskItem stranger = make(DiskCategory::appData, RiskLevel::safe);
     EXPECT_THAT(countsBeforeWrites([&] { result.toggleSelectionFor(stranger); }), IsEmpty());
