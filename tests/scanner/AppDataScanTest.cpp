@@ -1,9 +1,13 @@
 #include "scanner/DiskScanner.h"
 #include "scanner/Scans.h"
+#include "support/Limits.h"
 #include "support/ScratchFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sys/stat.h>
 
 namespace drossbin {
 namespace {
@@ -75,10 +79,43 @@ TEST(AppDataScan, takes_the_modification_date_of_the_entry) {
     EXPECT_EQ(DiskScanner::scanAppData(home.path()).at(0).lastAccessed, date);
 }
 
+TEST(AppDataScan, takes_the_date_of_a_link_and_not_of_what_it_leads_to) {
+    const ScratchFolder home;
+    home.file("elsewhere/file", 6'000'000);
+    home.folder(support);
+    const std::string link = home / (support + "link");
+    std::filesystem::create_symlink(home / "elsewhere", link);
+    test::setModificationDate(link, test::linkDate);
+    EXPECT_EQ(DiskScanner::scanAppData(home.path()).at(0).lastAccessed, test::linkDate);
+}
+
 TEST(AppDataScan, lists_hidden_entries) {
     const ScratchFolder home;
     home.file(support + ".hidden", 6'000'000);
     EXPECT_THAT(namesOf(DiskScanner::scanAppData(home.path())), ElementsAre(".hidden"));
+}
+
+TEST(AppDataScan, finds_nothing_where_the_support_folder_may_not_be_listed) {
+    EXPECT_TRUE(test::holdsForOrdinaryUser([] {
+        const ScratchFolder home;
+        home.file(support + "Notes", 6'000'000);
+        ::chmod((home / support).c_str(), 0);
+        const auto names = namesOf(DiskScanner::scanAppData(home.path()));
+        ::chmod((home / support).c_str(), 0700);
+        return names.empty();
+    }));
+}
+
+TEST(AppDataScan, leaves_out_a_folder_that_lets_nobody_read_it) {
+    EXPECT_TRUE(test::holdsForOrdinaryUser([] {
+        const ScratchFolder home;
+        home.file(support + "locked/file", 6'000'000);
+        home.file(support + "open/file", 6'000'000);
+        ::chmod((home / (support + "locked")).c_str(), 0);
+        const auto names = namesOf(DiskScanner::scanAppData(home.path()));
+        ::chmod((home / (support + "locked")).c_str(), 0700);
+        return names == std::vector<std::string>{"open"};
+    }));
 }
 
 TEST(AppDataScan, finds_nothing_where_there_is_no_support_folder) {

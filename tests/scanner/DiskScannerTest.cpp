@@ -81,6 +81,31 @@ TEST(DiskScanner, reports_before_each_step_the_bytes_of_the_steps_before) {
     });
 }
 
+/// Makes something for the step that is reported to find, and for no other.
+void fillForStep(const ScratchHome& home, const std::string& text) {
+    if (text == "Scanning program caches...") {
+        home.file("Library/Caches/cache", 2'000'000);
+    } else if (text == "Scanning package caches...") {
+        home.file(".npm/file", 30);
+    } else if (text == "Scanning app data...") {
+        home.file("Library/Application Support/Notes/file", 6'000'000);
+    } else if (text == "Scanning logs...") {
+        home.file("Library/Logs/file", 1'500'000);
+    } else if (text == "Scanning old downloads...") {
+        const std::string download = home.file("Downloads/old", 200'000);
+        test::setModificationDate(download, now() - std::chrono::days(60));
+    }
+}
+
+TEST(DiskScanner, begins_each_step_after_its_report) {
+    checkWithSystemLogs(0, [] {
+        const ScratchHome home;
+        const auto items = DiskScanner::scan(
+            [&home](double, const std::string& text, std::int64_t) { fillForStep(home, text); });
+        EXPECT_THAT(namesOf(items), ElementsAre("Notes", "cache", "User Logs", "old", "npm cache"));
+    });
+}
+
 // The root was once taken for it: "/.cache" and "/Downloads" were offered.
 TEST(DiskScanner, looks_at_nothing_where_nobody_knows_the_home_folder) {
     checkWithSystemLogs(2'000'000, [] {

@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -90,6 +91,17 @@ TEST(LogScan, takes_the_modification_date_of_the_folder) {
         const Date date = std::chrono::sys_days{std::chrono::year{2024} / 5 / 6};
         test::setModificationDate(home / "Library/Logs", date);
         EXPECT_EQ(DiskScanner::scanLogs(home.path()).at(0).lastAccessed, date);
+    });
+}
+
+TEST(LogScan, takes_the_date_of_a_link_and_not_of_what_it_leads_to) {
+    checkWithSystemLogs(0, [] {
+        const ScratchFolder home;
+        home.file("elsewhere/file", 2'000'000);
+        home.folder("Library");
+        std::filesystem::create_symlink(home / "elsewhere", home / "Library/Logs");
+        test::setModificationDate(home / "Library/Logs", test::linkDate);
+        EXPECT_EQ(DiskScanner::scanLogs(home.path()).at(0).lastAccessed, test::linkDate);
     });
 }
 

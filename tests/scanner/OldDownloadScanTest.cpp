@@ -1,5 +1,7 @@
+#include "platform/FileManager.h"
 #include "scanner/DiskScanner.h"
 #include "scanner/Scans.h"
+#include "support/Limits.h"
 #include "support/ScopedLocale.h"
 #include "support/ScopedTimeZone.h"
 #include "support/ScratchFolder.h"
@@ -8,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <sys/stat.h>
 
 namespace drossbin {
 namespace {
@@ -86,8 +89,33 @@ TEST_F(OldDownloadScan, judges_a_folder_by_its_own_entry) {
     EXPECT_THAT(scan(), IsEmpty());
 }
 
-TEST_F(OldDownloadScan, judges_a_link_by_itself) {
+// How many names that takes, each file system decides: 400 long ones on most, 5,100 in memory.
+TEST_F(OldDownloadScan, lists_a_folder_whose_own_entry_is_large) {
+    const std::string folder = downloads.folder("folder");
+    const auto ownSize = [&] { return FileManager::attributesOfItem(folder)->size; };
+    for (int number = 1'000; number < 7'000 && ownSize() <= 100'000; ++number) {
+        downloads.file("folder/" + std::string(250, 'x') + std::to_string(number), 0);
+    }
+    if (ownSize() <= 100'000) {
+        GTEST_SKIP() << "the entry of a folder does not grow here with the names in it";
+    }
+    setModificationDate(folder, cutoff - 24h);
+    const auto items = scan();
+    ASSERT_THAT(namesOf(items), ElementsAre("folder"));
+    EXPECT_EQ(items[0].size, ownSize());
+}
+
+TEST_F(OldDownloadScan, judges_a_link_by_its_own_date) {
     const std::string target = download("recent", 5'000'000, present);
+    std::filesystem::create_symlink(target, downloads / "link");
+    setModificationDate(downloads / "link", cutoff - 24h);
+    EXPECT_THAT(scan(), IsEmpty());
+}
+
+TEST_F(OldDownloadScan, judges_a_link_by_its_own_size) {
+    const test::ScratchFolder elsewhere;
+    const std::string target = elsewhere.file("old", 5'000'000);
+    setModificationDate(target, cutoff - 24h);
     std::filesystem::create_symlink(target, downloads / "link");
     setModificationDate(downloads / "link", cutoff - 24h);
     EXPECT_THAT(scan(), IsEmpty());
@@ -111,6 +139,17 @@ TEST_F(OldDownloadScan, survives_dates_far_from_the_present) {
 TEST_F(OldDownloadScan, takes_the_present_for_the_cutoff_where_no_earlier_date_exists) {
     download("file", 200'000, cutoff);
     EXPECT_THAT(DiskScanner::scanOldDownloads(downloads.path(), Date::min()), IsEmpty());
+}
+
+TEST_F(OldDownloadScan, finds_nothing_where_the_downloads_folder_may_not_be_listed) {
+    EXPECT_TRUE(test::holdsForOrdinaryUser([] {
+        const test::ScratchFolder locked;
+        setModificationDate(locked.file("old", 200'000), cutoff - 24h);
+        ::chmod(locked.path().c_str(), 0);
+        const auto items = DiskScanner::scanOldDownloads(locked.path(), present);
+        ::chmod(locked.path().c_str(), 0700);
+        return items.empty() && DiskScanner::scanOldDownloads(locked.path(), present).size() == 1;
+    }));
 }
 
 TEST_F(OldDownloadScan, finds_nothing_where_there_is_no_downloads_folder) {

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <filesystem>
 
 namespace drossbin {
 namespace {
@@ -102,6 +103,15 @@ TEST(PackageCacheScan, takes_the_modification_date_of_the_location) {
     const Date date = std::chrono::sys_days{std::chrono::year{2024} / 5 / 6};
     test::setModificationDate(home / ".npm", date);
     EXPECT_EQ(DiskScanner::scanPackageCaches(home.path()).at(0).lastAccessed, date);
+}
+
+TEST(PackageCacheScan, takes_the_date_of_a_link_and_not_of_what_it_leads_to) {
+    const ScratchFolder home;
+    home.file("elsewhere/file", 10);
+    const std::string link = home / ".npm";
+    std::filesystem::create_symlink(home / "elsewhere", link);
+    test::setModificationDate(link, test::linkDate);
+    EXPECT_EQ(DiskScanner::scanPackageCaches(home.path()).at(0).lastAccessed, test::linkDate);
 }
 
 TEST(PackageCacheScan, lists_again_what_the_program_cache_scan_lists_too) {

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <sys/stat.h>
 
 namespace drossbin {
@@ -48,6 +49,16 @@ TEST(ProgramCacheScan, takes_the_modification_date_of_the_entry) {
         std::chrono::sys_days{std::chrono::year{2024} / 5 / 6} + std::chrono::microseconds(7);
     test::setModificationDate(path, date);
     EXPECT_EQ(DiskScanner::scanProgramCaches(home.path()).at(0).lastAccessed, date);
+}
+
+TEST(ProgramCacheScan, takes_the_date_of_a_link_and_not_of_what_it_leads_to) {
+    const ScratchFolder home;
+    home.file("elsewhere/file", 2'000'000);
+    home.folder("Library/Caches");
+    const std::string link = home / "Library/Caches/link";
+    std::filesystem::create_symlink(home / "elsewhere", link);
+    test::setModificationDate(link, test::linkDate);
+    EXPECT_EQ(DiskScanner::scanProgramCaches(home.path()).at(0).lastAccessed, test::linkDate);
 }
 
 TEST(ProgramCacheScan, lists_protected_names_as_critical_without_a_note) {

@@ -19,6 +19,9 @@ void checkWithSystemLogs(std::int64_t size, const std::function<void()>& check);
 /// The date that `checkWithSystemLogs` gives to the folder.
 constexpr Date systemLogDate = std::chrono::sys_days{std::chrono::year{2023} / 7 / 8};
 
+/// The date of a link, which what it leads to does not have.
+constexpr Date linkDate = std::chrono::sys_days{std::chrono::year{2024} / 5 / 6};
+
 /// The names of `items`, in their order.
 std::vector<std::string> namesOf(const std::vector<DiskItem>& items);
 
