@@ -11,10 +11,9 @@ from Xlib import XK, X, display, protocol
 from Xlib.ext import xtest
 
 
-
-def dies_with_us(command):
-    """The command, killed by the system when this process is gone, however it goes."""
-    return ["setpriv", "--pdeathsig", "KILL", *command]
+def dies_with_us(command, how="KILL"):
+    """The command, ended by the system when this process is gone, however it goes."""
+    return ["setpriv", "--pdeathsig", how, *command]
 
 
 class Desktop:
@@ -44,14 +43,17 @@ class Desktop:
         return ":" + self._start(command, {})
 
     def _start_bus(self):
-        command = ["dbus-daemon", "--session", "--nofork", "--print-address=1"]
+        # In the world, which is removed with all that is in it, wherever the system wants it.
+        address = "unix:dir=" + self._world.environment()["XDG_RUNTIME_DIR"]
+        command = ["dbus-daemon", "--session", "--nofork", "--print-address=1", "--address", address]
         return self._start(command, {"DISPLAY": self.display_name})
 
     def _start(self, command, more):
-        """Starts a server; returns the line that it writes when it is ready."""
+        """Starts a server; returns the line that it writes when it is ready. In the end it is asked
+        to stop, not killed, so that it takes its locks and sockets away."""
         reader, writer = os.pipe()
         process = subprocess.Popen(
-            dies_with_us(command),
+            dies_with_us(command, "TERM"),
             env=self._world.environment(**more),
             stdin=subprocess.DEVNULL,
             stdout=writer,
@@ -59,7 +61,7 @@ class Desktop:
         )
         os.close(writer)
         self._processes.callback(process.wait)
-        self._processes.callback(process.kill)
+        self._processes.callback(process.terminate)
         with os.fdopen(reader) as lines:
             line = lines.readline().strip()
         if not line:
