@@ -28,4 +28,4 @@ class Setup : public QObject {
 
 QUICK_TEST_MAIN_WITH_SETUP(views, Setup)
 
-#include "ViewsTest.moc"
+#include "main.moc"
