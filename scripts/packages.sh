@@ -19,6 +19,8 @@ package_list=(
   "screen|strace||hold the program in the middle of its work, and see every file that it opens"
   "test|libgtest-dev libgmock-dev|googletest|tests of the logic"
   "test|qml6-module-qttest||tests of the screens"
+  "test|fonts-droid-fallback fonts-tlwg-loma-ttf fonts-kacst-one||names in Chinese, Thai and Arabic on the screens"
+  "test|fonts-lohit-deva fonts-lohit-beng-bengali||names in Devanagari and Bengali on the screens"
   "test|appstream desktop-file-utils||check what software centres read"
   "bench|libbenchmark-dev|google-benchmark|time single calls"
   "bench|ncdu gdu|ncdu gdu|compare with what people would use instead"

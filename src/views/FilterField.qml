@@ -56,7 +56,7 @@ FocusScope {
             id: input
 
             Layout.fillWidth: true
-            implicitHeight: contentHeight
+            implicitHeight: Theme.lineHeight(Theme.body)
             focus: true
             text: filter.searchText
             color: Theme.label

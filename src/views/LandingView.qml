@@ -33,7 +33,7 @@ Item {
                 text: "Free up space by clearing hidden caches,\nbrowser data, and creative app leftovers."
                 color: Theme.secondary
                 horizontalAlignment: Text.AlignHCenter
-                lineHeight: 1.2
+                lineHeight: 1.2 * Theme.lineHeight(Theme.body)
             }
         }
 

@@ -66,6 +66,12 @@ QtObject {
     readonly property int caption: 12
     readonly property int caption2: 11
 
+    /// How high a line is: as high as one in Latin letters, whatever typeface its script needs. Otherwise
+    /// rows would differ in height, and a sheet or a tooltip in Thai would be too high.
+    function lineHeight(pixelSize: real): real {
+        return Math.ceil(pixelSize * 1.21);
+    }
+
     // Spacing scale
     readonly property int space2: 2
     readonly property int space4: 4

@@ -7,9 +7,9 @@ T.ToolTip {
     id: tip
 
     readonly property real widest: 640
-    readonly property real room: tip.parent.Window.height - 2 * Theme.space8 - tip.topPadding - tip.bottomPadding
+    readonly property int lines: (tip.parent.Window.height - 2 * Theme.space8 - tip.topPadding - tip.bottomPadding) / Theme.lineHeight(Theme.caption2)
     /// What all lines hold together; at the end of each, a character may find no place.
-    readonly property real capacity: Math.floor(tip.room / metrics.lineSpacing) * (tip.widest - tip.leftPadding - tip.rightPadding - metrics.maximumCharacterWidth)
+    readonly property real capacity: tip.lines * (tip.widest - tip.leftPadding - tip.rightPadding - metrics.maximumCharacterWidth)
 
     x: (tip.parent.width - tip.implicitWidth) / 2
     y: tip.parent.height + Theme.space4
@@ -32,6 +32,7 @@ T.ToolTip {
         font: metrics.font
         color: Theme.bright
         wrapMode: Text.WrapAnywhere
+        maximumLineCount: tip.lines
     }
 
     background: Rectangle {

@@ -12,6 +12,8 @@ import tempfile
 # Who the superuser becomes where rights matter. The message bus wants a user that the system knows.
 ORDINARY_USER = "nobody"
 FOLDERS = ("home", "var-log", "runtime", "tmp", "small-disk")
+# Which typefaces there are: those that the program asks for, whatever others the machine has.
+TYPEFACES = os.path.join(os.path.dirname(os.path.dirname(os.path.abspath(__file__))), "fonts", "required.conf")
 
 
 class World:
@@ -35,6 +37,7 @@ class World:
             # in a process that is traced.
             "ASAN_OPTIONS": "detect_leaks=0",
             "TZ": "UTC",
+            "FONTCONFIG_FILE": os.path.join(self.root, "required.conf"),
             "TMPDIR": os.path.join(self.root, "tmp"),
             "XDG_RUNTIME_DIR": os.path.join(self.root, "runtime"),
             **more,
@@ -54,6 +57,7 @@ def run_inside(script, arguments, as_ordinary_user=False):
         os.chmod(root, 0o755)
         for name in FOLDERS:
             os.mkdir(os.path.join(root, name), 0o700)
+        shutil.copy(TYPEFACES, root)
         return _run(root, script, arguments, as_ordinary_user and os.getuid() == 0)
     finally:
         subprocess.run(["chmod", "-R", "u+rwX", root], stderr=subprocess.DEVNULL, check=False)

@@ -3,9 +3,25 @@
 #include "HeldTime.h"
 #include "app/EventLoop.h"
 #include "platform/Locale.h"
+#include "views/Typeface.h"
 
+#include <QFontDatabase>
 #include <QQmlEngine>
 #include <QtQuickTest>
+
+/// Where names in all scripts are to be shown: without typefaces for them that would prove nothing.
+void needTypefaces() {
+    if (qgetenv("FONTCONFIG_FILE") != "all_scripts.conf") {
+        return;
+    }
+    for (const auto script : {QFontDatabase::SimplifiedChinese, QFontDatabase::Thai, QFontDatabase::Arabic,
+                              QFontDatabase::Devanagari, QFontDatabase::Bengali}) {
+        if (QFontDatabase::families(script).isEmpty()) {
+            qFatal("No typeface for %s is installed",
+                   qPrintable(QFontDatabase::writingSystemName(script)));
+        }
+    }
+}
 
 /// Lets the tests import the views from the program's own resources, and gives them keys,
 /// sessions and time.
@@ -16,6 +32,8 @@ class Setup : public QObject {
     void applicationAvailable() {
         drossbin::Locale::setCurrent({"en_US"});
         drossbin::connectMainThreadToEventLoop();
+        drossbin::chooseTypeface();
+        needTypefaces();
     }
 
     void qmlEngineAvailable(QQmlEngine* engine) {

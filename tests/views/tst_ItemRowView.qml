@@ -15,6 +15,10 @@ TestCase {
         id: find
     }
 
+    Names {
+        id: names
+    }
+
     Component {
         id: rowComponent
 
@@ -44,7 +48,8 @@ TestCase {
     }
 
     function init() {
-        failOnWarning(/.?/);
+        // Said of a script that the typeface asked for does not have; another one is taken then.
+        failOnWarning(/^(?! *OpenType support missing)/);
         Theme.animated = false;
     }
 
@@ -109,6 +114,8 @@ TestCase {
     }
 
     function test_the_longest_dates_fit_their_column_and_the_row(data) {
+        if (/[\u0600-\u06ff]/.test(data.text) && !Qt.fontFamilies().includes("KacstOne"))
+            skip("no typeface here has these letters, and the boxes in their place are wider");
         const row = make({ dateText: data.text });
         const date = find.label(row, data.text);
         compare(date.width, 70);
@@ -116,6 +123,14 @@ TestCase {
         verify(date.contentWidth <= 70);
         verify(date.height <= row.height - row.topPadding - row.bottomPadding);
         compare(row.height, make().height);
+    }
+
+    function test_is_equally_high_in_all_scripts_data() {
+        return names.rows;
+    }
+
+    function test_is_equally_high_in_all_scripts(data) {
+        compare(make({ name: data.name, path: `/home/user/${data.name}` }).height, make().height);
     }
 
     function test_is_padded_4_above_and_below() {

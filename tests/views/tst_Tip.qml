@@ -34,7 +34,8 @@ Item {
             }
 
             function init() {
-                failOnWarning(/.?/);
+                // Said of a script that the typeface asked for does not have; another one is taken then.
+                failOnWarning(/^(?! *OpenType support missing)/);
                 place.x = 400;
                 place.y = 300;
             }
@@ -63,7 +64,7 @@ Item {
 
             function test_fits_the_smallest_window_data() {
                 const rows = [];
-                for (const [tag, character] of [["narrow", "i"], ["ordinary", "e"], ["wide", "W"], ["word", "/folder of mine"], ["full", "漢"], ["emoji", "😀"]])
+                for (const [tag, character] of [["narrow", "i"], ["ordinary", "e"], ["wide", "W"], ["word", "/folder of mine"], ["full", "漢"], ["emoji", "😀"], ["high", "ที่"], ["joined", "ملف"], ["stacked", "क्ष्म्य"], ["piled up", "ཀ" + "ྐ".repeat(40)]])
                     for (const [corner, x, y] of [["top", 0, 0], ["bottom", 850, 630]])
                         rows.push({ tag: tag + " at the " + corner, text: ("/" + character).repeat(4000).slice(0, 4000), x: x, y: y });
                 return rows;
