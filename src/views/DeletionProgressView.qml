@@ -25,7 +25,7 @@ FocusScope {
             name: status.text
 
             FigureLabel {
-                text: view.percentText
+                figures: view.percentText
                 font.pixelSize: Theme.title3
                 font.weight: Font.Bold
             }

@@ -158,7 +158,7 @@ T.ItemDelegate {
                     id: size
 
                     anchors.right: parent.right
-                    text: row.sizeText
+                    figures: row.sizeText
                     scale: Math.min(1, parent.width / width)
                     transformOrigin: row.mirrored ? Item.Left : Item.Right
                 }

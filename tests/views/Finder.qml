@@ -17,11 +17,11 @@ QtObject {
     }
 
     function texts(root: Item): var {
-        return labels(root).map(label => label.text);
+        return labels(root).map(label => label.Accessible.name);
     }
 
     function label(root: Item, text: string): Item {
-        return labels(root).find(label => label.text === text) ?? null;
+        return labels(root).find(label => label.Accessible.name === text) ?? null;
     }
 
     function symbol(root: Item, name: string): Item {
