@@ -8,8 +8,10 @@ Image {
     required property string name
     property color color: Theme.label
     property int size: Theme.body
+    /// Whether its strokes are as heavy as those of semibold letters.
+    property bool isHeavy: false
 
-    source: symbol.name === "" ? "" : Symbols.source(symbol.name, symbol.color)
+    source: symbol.name === "" ? "" : Symbols.source(symbol.name, symbol.color, symbol.isHeavy)
     sourceSize.width: symbol.size
     sourceSize.height: symbol.size
     width: symbol.size

@@ -24,6 +24,7 @@ Item {
             name: both.symbol
             color: both.color
             size: Math.round(both.font.pixelSize * 1.15)
+            isHeavy: both.font.weight >= Font.DemiBold
         }
 
         PlainLabel {

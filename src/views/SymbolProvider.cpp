@@ -1,6 +1,7 @@
 #include "views/SymbolProvider.h"
 
 #include <QColor>
+#include <QFile>
 #include <QHash>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -29,7 +30,7 @@ const Symbols& symbols() {
         {"magnifyingglass", {{"search"}}},
         {"shippingbox", {{"box-seam"}}},
         // The stars sit in the middle of the lens, which is left of and above the icon's middle.
-        {"sparkle.magnifyingglass", {{"search"}, {"stars", {0.19, 0.17, 0.44, 0.44}}}},
+        {"sparkle.magnifyingglass", {{"search-light"}, {"stars", {0.19, 0.17, 0.44, 0.44}}}},
         {"sparkles", {{"stars"}}},
         {"square.stack.3d.up", {{"layers"}}},
         {"trash", {{"trash3"}}},
@@ -40,8 +41,19 @@ const Symbols& symbols() {
     return table;
 }
 
-void draw(QPainter& painter, const Layer& layer, const QSize& size) {
-    QSvgRenderer renderer(QStringLiteral(":/symbols/%1.svg").arg(layer.icon));
+QByteArray drawingOf(const Layer& layer, bool isHeavy) {
+    QFile file(QStringLiteral(":/symbols/%1.svg").arg(layer.icon));
+    QByteArray drawing = file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+    if (isHeavy) {
+        // The icons are outlines of strokes one unit wide, of 16: a rim makes those wider.
+        drawing.replace("fill=", R"(stroke="#000" stroke-width="0.9" stroke-linejoin="round" fill=)");
+        drawing.replace("0 0 16 16", "-0.45 -0.45 16.9 16.9");
+    }
+    return drawing;
+}
+
+void draw(QPainter& painter, const Layer& layer, bool isHeavy, const QSize& size) {
+    QSvgRenderer renderer(drawingOf(layer, isHeavy));
     const QRectF place(layer.place.x() * size.width(), layer.place.y() * size.height(),
                        layer.place.width() * size.width(), layer.place.height() * size.height());
     renderer.render(&painter, place);
@@ -58,10 +70,10 @@ QImage SymbolProvider::requestImage(const QString& id, QSize* size, const QSize&
     image.fill(Qt::transparent);
     QPainter painter(&image);
     for (const Layer& layer : *layers) {
-        draw(painter, layer, requestedSize);
+        draw(painter, layer, id.endsWith("/heavy"), requestedSize);
     }
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(image.rect(), QColor('#' + id.section('/', 1)));
+    painter.fillRect(image.rect(), QColor('#' + id.section('/', 1, 1)));
     *size = image.size();
     return image;
 }

@@ -5,7 +5,8 @@
 namespace drossbin {
 
 /// Draws the symbols named as on macOS from the icons built into the program, in one colour.
-/// An id is the name, a slash and the colour as #AARRGGBB without its "#".
+/// An id is the name, a slash and the colour as #AARRGGBB without its "#"; "/heavy" after it asks
+/// for strokes as heavy as those of semibold letters.
 class SymbolProvider : public QQuickImageProvider {
   public:
     SymbolProvider()

@@ -15,8 +15,9 @@ Symbols* Symbols::create(QQmlEngine* engine, QJSEngine* /*scripts*/) {
     return std::unique_ptr<Symbols>(new Symbols).release();
 }
 
-QString Symbols::source(const QString& name, const QColor& color) {
-    return QStringLiteral("image://symbols/%1/%2").arg(name, color.name(QColor::HexArgb).mid(1));
+QString Symbols::source(const QString& name, const QColor& color, bool isHeavy) {
+    return QStringLiteral("image://symbols/%1/%2%3")
+        .arg(name, color.name(QColor::HexArgb).mid(1), isHeavy ? "/heavy" : "");
 }
 
 } // namespace drossbin

@@ -19,7 +19,8 @@ class Symbols : public QObject {
   public:
     static Symbols* create(QQmlEngine* engine, QJSEngine* scripts);
 
-    Q_INVOKABLE [[nodiscard]] static QString source(const QString& name, const QColor& color);
+    Q_INVOKABLE [[nodiscard]] static QString source(const QString& name, const QColor& color,
+                                                    bool isHeavy);
 
   private:
     Symbols() = default;

@@ -216,6 +216,7 @@ TestCase {
         compare(symbol.visible, true);
         compare(symbol.name, "trash");
         compare(symbol.size, 16);
+        compare(symbol.isHeavy, true);
         verify(Qt.colorEqual(symbol.color, "#ffffff"));
         compare(row(make()).children[0].visible, false);
     }

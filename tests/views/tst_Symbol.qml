@@ -21,6 +21,19 @@ TestCase {
         }
     }
 
+    Component {
+        id: semibold
+
+        // As large beside a symbol of 161 as in a button.
+        PlainLabel {
+            text: "l"
+            color: "black"
+            font.pixelSize: 140
+            font.weight: Font.DemiBold
+            width: 200
+        }
+    }
+
     function init() {
         failOnWarning(/.?/);
     }
@@ -43,6 +56,26 @@ TestCase {
             for (let x = 0; x < 40; ++x)
                 ink += image.red(x, y) > 200 && image.green(x, y) < 60 ? 1 : 0;
         return ink;
+    }
+
+    /// How wide the first stroke is that a line through the picture meets.
+    function strokeOf(item: Item, y: int): real {
+        waitForRendering(item);
+        const picture = grabImage(item);
+        item.visible = false;
+        return Array.from({ length: 40 }, (_, x) => (255 - picture.red(x, y)) / 255).reduce((sum, ink) => sum + ink, 0);
+    }
+
+    function test_strokes_are_as_heavy_as_semibold_letters() {
+        const letter = strokeOf(createTemporaryObject(semibold, test), 90);
+        const stroke = isHeavy => strokeOf(createTemporaryObject(symbol, test, { name: "circle", color: "black", size: 161, isHeavy: isHeavy }), 80);
+        fuzzyCompare(stroke(true), letter, 0.3);
+        fuzzyCompare(stroke(false), 161 / 16, 0.3);
+    }
+
+    function test_emblems_strokes_are_as_thin_as_light_letters_are() {
+        const sign = createTemporaryObject(symbol, test, { name: "sparkle.magnifyingglass", color: "black", size: 160 });
+        fuzzyCompare(strokeOf(sign, 65), 0.75 * 160 / 16, 0.3);
     }
 
     function test_an_unknown_name_has_none() {
