@@ -9,6 +9,7 @@ Item {
     required property color color
     /// How wide a digit's cell is; 0 for as wide as the digit.
     required property real digitWidth
+    required property bool rolls
     property string shown: ""
     property string leaving: ""
     property real turn: 1
@@ -18,11 +19,18 @@ Item {
         cell.leaving = cell.shown;
         cell.shown = cell.text;
         motion.restart();
+        cell.settle();
+    }
+
+    function settle(): void {
+        if (!cell.rolls)
+            motion.complete();
     }
 
     implicitWidth: cell.shown === "" ? 0 : cell.isDigit && cell.digitWidth > 0 ? cell.digitWidth : arriving.implicitWidth
     implicitHeight: arriving.implicitHeight
     onTextChanged: cell.roll()
+    onRollsChanged: cell.settle()
     Component.onCompleted: {
         cell.shown = cell.text;
         cell.leaving = "";

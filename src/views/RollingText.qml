@@ -4,12 +4,15 @@ import QtQuick
 
 /// A number with its unit whose characters roll upwards, each on its own, when they change.
 /// Where it is `tabular`, digits stand in cells of equal width. A text that runs right to left rolls
-/// as a whole, because its letters join and its parts are not in the order of its characters.
+/// as a whole, because its letters join and its parts are not in the order of its characters; so do
+/// digits of other scripts, which are equally wide by themselves.
 Item {
     id: rolling
 
     required property string text
     property bool tabular: true
+    /// Whether a change rolls; otherwise it is just there.
+    property bool rolls: true
     property font font
     property color color: Theme.label
     readonly property list<string> parts: rolling.split(rolling.text)
@@ -19,7 +22,7 @@ Item {
     }
 
     implicitWidth: row.implicitWidth
-    implicitHeight: metrics.height
+    implicitHeight: Theme.lineHeight(rolling.font.pixelSize)
     Accessible.role: Accessible.StaticText
     Accessible.name: rolling.text
 
@@ -44,6 +47,7 @@ Item {
                 text: rolling.parts[index] ?? ""
                 font: rolling.font
                 color: rolling.color
+                rolls: rolling.rolls
                 digitWidth: rolling.tabular ? metrics.advanceWidth("0") : 0
             }
         }

@@ -31,6 +31,7 @@ Column {
             anchors.left: parent.left
             text: meter.sizeText
             tabular: false
+            rolls: meter.isReclaiming
             color: meter.isReclaiming ? Theme.blue : Theme.label
             font.pixelSize: Theme.title2
             font.weight: Font.Bold

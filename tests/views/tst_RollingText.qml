@@ -88,6 +88,24 @@ TestCase {
         verify(make("8").children[0].children[0].digitWidth > 0, "unlike where they line up");
     }
 
+    function test_changes_at_once_where_it_does_not_roll() {
+        const item = make("1");
+        item.rolls = false;
+        item.text = "2";
+        compare(cell(item, 0).turn, 1);
+        compare(cell(item, 0).shown, "2");
+        item.rolls = true;
+        compare(cell(item, 0).turn, 1);
+    }
+
+    function test_ends_its_roll_when_it_is_told_not_to() {
+        const item = make("1");
+        item.text = "2";
+        compare(cell(item, 0).turn, 0);
+        item.rolls = false;
+        compare(cell(item, 0).turn, 1);
+    }
+
     function test_does_not_roll_with_reduced_motion() {
         Theme.animated = false;
         const item = make("1");

@@ -67,6 +67,30 @@ TestCase {
         compare(selected(meter).visible, true);
     }
 
+    /// Whether any character of the number is on its way.
+    function isRolling(meter: StorageMeter): bool {
+        return Array.from(number(meter).children[0].children).some(cell => cell.turn < 1);
+    }
+
+    /// As the session does it: the number changes before what it is.
+    function show(meter: StorageMeter, text: string, isReclaiming: bool) {
+        meter.sizeText = text;
+        meter.isReclaiming = isReclaiming;
+    }
+
+    function test_only_space_to_reclaim_rolls() {
+        Theme.animated = true;
+        const meter = make();
+        show(meter, "31.2 GB", false);
+        compare(isRolling(meter), false, "what was found");
+        show(meter, "1.1 GB", true);
+        compare(isRolling(meter), false, "from what was found to what comes back");
+        show(meter, "2.3 GB", true);
+        compare(isRolling(meter), true, "what comes back");
+        show(meter, "31.2 GB", false);
+        compare(isRolling(meter), false, "from what comes back to what was found");
+    }
+
     function test_number_is_title_2_bold_under_a_caption() {
         const meter = make();
         compare(number(meter).font.pixelSize, Theme.title2);
