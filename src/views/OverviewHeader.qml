@@ -1,7 +1,7 @@
 import QtQuick
 
 /// The sum of what was found, and the two buttons that act on all of it. It is always high enough
-/// for both, so that the first stays under the pointer when the second appears.
+/// for both, so that what is below stays where it is when the second appears.
 Item {
     id: header
 
@@ -46,8 +46,7 @@ Item {
 
         anchors.right: parent.right
         anchors.rightMargin: Theme.space16
-        anchors.top: parent.top
-        anchors.topMargin: Theme.space16
+        anchors.verticalCenter: parent.verticalCenter
         width: Math.max(select.implicitWidth, remove.visible ? remove.implicitWidth : 0)
         spacing: Theme.space8
 

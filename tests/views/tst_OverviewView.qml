@@ -104,9 +104,22 @@ TestCase {
         compare(remove.mapToItem(view, remove.width, 0).x, 644);
     }
 
-    function test_nothing_moves_when_the_second_button_appears() {
+    function test_titles_and_buttons_are_centred_on_one_line() {
         const view = make("smartSelect");
-        const places = () => ["Smart Select", "Drossbin"].map(name => (finder.button(view, name) ?? finder.label(view, name)).mapToItem(view, 0, 0)).concat(cards(view)[0].mapToItem(view, 0, 0));
+        const middle = item => item.mapToItem(view, 0, item.height / 2).y;
+        const header = finder.label(view, "Drossbin").parent.parent;
+        for (const hasSelection of [false, true]) {
+            view.hasSelection = hasSelection;
+            waitForRendering(view);
+            for (const stack of [finder.label(view, "Drossbin").parent, finder.button(view, "Smart Select").parent])
+                fuzzyCompare(middle(stack), middle(header), 0.5); // on whole pixels
+        }
+        compare(header.height, 2 * 37 + 8 + 2 * 16);
+    }
+
+    function test_titles_and_cards_stay_when_the_second_button_appears() {
+        const view = make("smartSelect");
+        const places = () => [finder.label(view, "Drossbin"), cards(view)[0]].map(item => item.mapToItem(view, 0, 0));
         waitForRendering(view);
         const before = places();
         view.hasSelection = true;
