@@ -46,7 +46,8 @@ QByteArray drawingOf(const Layer& layer, bool isHeavy) {
     QByteArray drawing = file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
     if (isHeavy) {
         // The icons are outlines of strokes one unit wide, of 16: a rim makes those wider.
-        drawing.replace("fill=", R"(stroke="#000" stroke-width="0.9" stroke-linejoin="round" fill=)");
+        drawing.replace("fill=",
+                        R"(stroke="#000" stroke-width="0.9" stroke-linejoin="round" fill=)");
         drawing.replace("0 0 16 16", "-0.45 -0.45 16.9 16.9");
     }
     return drawing;

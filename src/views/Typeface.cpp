@@ -11,8 +11,8 @@ void chooseTypeface() {
 #ifndef Q_OS_MACOS // which has a font made for its screens; this is the closest to it
     font.setFamilies({QStringLiteral("Inter"), font.family()});
 #endif
-    // Letters have neither coloured edges, which not every renderer can draw, nor are they scaled from
-    // one size.
+    // Letters have neither coloured edges, which not every renderer can draw, nor are they scaled
+    // from one size.
     font.setStyleStrategy(QFont::NoSubpixelAntialias);
     QGuiApplication::setFont(font);
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);

@@ -14,8 +14,9 @@ void needTypefaces() {
     if (qgetenv("FONTCONFIG_FILE") != "all_scripts.conf") {
         return;
     }
-    for (const auto script : {QFontDatabase::SimplifiedChinese, QFontDatabase::Thai, QFontDatabase::Arabic,
-                              QFontDatabase::Devanagari, QFontDatabase::Bengali}) {
+    for (const auto script :
+         {QFontDatabase::SimplifiedChinese, QFontDatabase::Thai, QFontDatabase::Arabic,
+          QFontDatabase::Devanagari, QFontDatabase::Bengali}) {
         if (QFontDatabase::families(script).isEmpty()) {
             qFatal("No typeface for %s is installed",
                    qPrintable(QFontDatabase::writingSystemName(script)));
