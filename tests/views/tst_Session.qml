@@ -98,6 +98,26 @@ Item {
                 compare(made.content.showDeletionComplete, true);
             }
 
+            function test_meter_rolls_between_selections_only() {
+                const made = make();
+                Theme.animated = true;
+                const meter = find.seen(made).find(item => item instanceof StorageMeter);
+                tryCompare(meter, "sizeText", "15 MB");
+                const number = find.seen(meter).find(item => item instanceof RollingText);
+                const isRolling = () => Array.from(number.children[0].children).some(cell => cell.turn < 1);
+                made.content.selectedCategory = 1;
+                made.content.selectAllInCategory();
+                tryCompare(number, "text", "3 MB");
+                compare(isRolling(), false);
+                made.content.selectedCategory = 2;
+                made.content.selectAllInCategory();
+                tryCompare(number, "text", "6 MB");
+                compare(isRolling(), true);
+                made.content.clearSelection();
+                tryCompare(number, "text", "15 MB");
+                compare(isRolling(), false);
+            }
+
             function test_escape_held_down_leaves_one_thing() {
                 const made = make();
                 made.content.selectedCategory = 1;
