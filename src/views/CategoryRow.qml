@@ -17,6 +17,10 @@ T.ItemDelegate {
     implicitHeight: names.implicitHeight + topPadding + bottomPadding
     focusPolicy: Qt.NoFocus
     verticalPadding: 2
+    // What shows that it is picked, and what takes clicks, reaches beyond the row, so that its lines
+    // do not touch the edge.
+    topInset: -3
+    bottomInset: -3
     horizontalPadding: Theme.space8
     Keys.onSpacePressed: row.picked()
     Keys.onReturnPressed: row.picked()
@@ -83,7 +87,7 @@ T.ItemDelegate {
     MouseArea {
         id: mouse
 
-        anchors.fill: parent
+        anchors.fill: row.background
         hoverEnabled: true
         onClicked: event => row.isCurrent && event.modifiers & Qt.ControlModifier ? row.unpicked() : row.picked()
     }

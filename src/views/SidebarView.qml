@@ -54,7 +54,7 @@ FocusScope {
             Layout.fillWidth: true
             implicitHeight: contentHeight
             interactive: false
-            spacing: Theme.space2
+            spacing: Theme.space8
             model: sidebar.categories
             currentIndex: Math.max(0, sidebar.selectedCategory)
             activeFocusOnTab: true

@@ -89,6 +89,17 @@ TestCase {
         verify(Qt.colorEqual(caption.color, Theme.secondary));
     }
 
+    function test_lines_keep_5_from_the_edge_of_what_is_picked_and_rows_apart() {
+        const item = row("Log Files");
+        const next = row("Old Downloads");
+        compare(item.background.mapToItem(item, 0, 0).y, -3);
+        compare(item.background.height, item.height + 6);
+        compare(next.background.mapToItem(item.background, 0, 0).y, item.background.height + 2);
+        mouseClick(item, 20, -2);
+        mouseClick(item, 20, item.height + 2);
+        compare(sidebar.log, [3, 3]);
+    }
+
     function test_only_the_picked_symbol_is_blue() {
         choose(1);
         verify(Qt.colorEqual(find.symbol(sidebar, "shippingbox").color, Theme.blue));
