@@ -10,7 +10,7 @@ RowsView {
     readonly property ItemRowView currentRow: list.currentItem as ItemRowView
     /// A protected row cannot have the focus; the list then has it, and shows where it is.
     readonly property bool showsFocus: list.currentRow !== null && (list.currentRow.visualFocus || (list.currentRow.isProtected && list.activeFocus))
-    readonly property int page: Math.max(1, Math.floor(list.height / 48))
+    readonly property int page: Math.max(1, Math.floor(list.height / ((list.currentItem?.height ?? 0) + list.spacing)))
     /// How many rows a key walks.
     readonly property var strides: ({
             [Qt.Key_Up]: -1,

@@ -20,6 +20,11 @@ T.ItemDelegate {
     /// Whether the keyboard is in this row: only then its controls are reached with Tab.
     property bool isCurrent: false
     readonly property bool showInfo: information.showInfo
+    /// What is left for the name beside all that always stays there. It keeps 140: before it gets
+    /// less, first the date goes (70 and the space before it), then the words of the badge (80 at most).
+    readonly property real room: row.width - 243
+    readonly property bool showsRisk: row.room >= 140 + 80
+    readonly property bool showsDate: row.room >= 140 + 80 + 82
 
     signal toggled
 
@@ -33,7 +38,9 @@ T.ItemDelegate {
         information.popover?.close();
     }
 
-    implicitHeight: names.implicitHeight + topPadding + bottomPadding
+    // With the 2 between rows a multiple of 4, which is whole in pixels at 125, 150 and 175 % too:
+    // each row then looks like the one above it.
+    implicitHeight: Math.ceil((names.implicitHeight + topPadding + bottomPadding + 2) / 4) * 4 - 2
     verticalPadding: 4
     horizontalPadding: 8
     spacing: 12
@@ -55,6 +62,19 @@ T.ItemDelegate {
         color: row.isSelected ? Theme.tinted(Theme.blue, 0.06) : "transparent"
     }
 
+    // All of the row's end is to be pressed: symbol and padding, from edge to edge.
+    CheckMark {
+        id: check
+
+        anchors.left: parent.left
+        width: 20 + row.leftPadding + row.rightPadding
+        height: parent.height
+        name: row.name
+        isSelected: row.isSelected
+        activeFocusOnTab: row.isCurrent || activeFocus
+        onClicked: row.press()
+    }
+
     Item {
         anchors {
             fill: parent
@@ -64,35 +84,23 @@ T.ItemDelegate {
             bottomMargin: row.bottomPadding
         }
 
-        Row {
-            id: leading
+        SymbolFrame {
+            id: frame
 
-            anchors.left: parent.left
-            height: parent.height
-            spacing: row.spacing
-
-            CheckMark {
-                height: parent.height
-                name: row.name
-                isSelected: row.isSelected
-                activeFocusOnTab: row.isCurrent || activeFocus
-                onClicked: row.press()
-            }
-
-            SymbolFrame {
-                anchors.verticalCenter: parent.verticalCenter
-                name: row.symbol
-            }
+            anchors { left: parent.left; leftMargin: 20 + row.spacing; verticalCenter: parent.verticalCenter }
+            name: row.symbol
         }
 
         Column {
             id: names
 
             anchors {
-                left: leading.right
+                left: frame.right
                 right: trailing.left
                 margins: row.spacing
+                verticalCenter: parent.verticalCenter
             }
+            spacing: 3
 
             PlainLabel {
                 width: parent.width
@@ -135,9 +143,11 @@ T.ItemDelegate {
                 riskColor: row.riskColor
                 riskLabel: row.riskLabel
                 riskSymbol: row.riskSymbol
+                showsLabel: row.showsRisk
             }
 
             PlainLabel {
+                visible: row.showsDate
                 anchors.verticalCenter: parent.verticalCenter
                 width: 70
                 text: row.dateText

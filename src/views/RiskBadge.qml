@@ -7,11 +7,16 @@ Rectangle {
     required property string riskColor
     required property string riskLabel
     required property string riskSymbol
+    /// Without it the symbol stands alone.
+    property bool showsLabel: true
 
     implicitWidth: content.implicitWidth + 16
-    implicitHeight: content.implicitHeight + 6
+    implicitHeight: words.implicitHeight + 6
     radius: height / 2
     color: Theme.tinted(Theme.riskTint(badge.riskColor), 0.15)
+    Accessible.role: Accessible.StaticText
+    Accessible.name: badge.riskLabel
+    Accessible.ignored: badge.showsLabel
 
     Row {
         id: content
@@ -27,6 +32,9 @@ Rectangle {
         }
 
         PlainLabel {
+            id: words
+
+            visible: badge.showsLabel
             anchors.verticalCenter: parent.verticalCenter
             text: badge.riskLabel
             color: Theme.shade(badge.riskColor)

@@ -87,8 +87,8 @@ TestCase {
         const date = find.label(row, "4 wk. ago");
         const size = find.label(row, "1.1 GB").parent;
         tryVerify(() => leftOf(badge, row) > leftOf(information, row)); // laid out
-        compare(leftOf(box, row), 8);
-        compare(leftOf(frame, row) - rightOf(box, row), 12);
+        compare(leftOf(find.symbol(box, "circle").parent, row) + box.width / 2, 8 + 10);
+        compare(leftOf(frame, row), 8 + 20 + 12);
         compare(frame.width, 20);
         compare(leftOf(names, row) - rightOf(frame, row), 12);
         compare(leftOf(information, row) - rightOf(names, row), 12);
@@ -96,6 +96,8 @@ TestCase {
         compare(leftOf(date, row) - rightOf(badge, row), 12);
         compare(date.width, 70);
         compare(date.horizontalAlignment, Text.AlignHCenter);
+        compare(date.font.pixelSize, Theme.caption);
+        verify(Qt.colorEqual(date.color, Theme.secondary));
         compare(leftOf(size, row) - rightOf(date, row), 12);
         compare(size.width, 80);
         compare(rightOf(size, row), row.width - 8);
@@ -133,15 +135,81 @@ TestCase {
         compare(make({ name: data.name, path: `/home/user/${data.name}` }).height, make().height);
     }
 
-    function test_is_padded_4_above_and_below() {
+    function test_is_padded_4_above_and_below_with_3_between_its_lines() {
         const row = make();
         const name = find.label(row, "npm cache");
         const path = find.label(row, "/home/user/.npm");
-        compare(name.mapToItem(row, 0, 0).y, 4);
-        compare(row.height, name.height + path.height + 8);
+        const top = name.mapToItem(row, 0, 0).y;
+        verify(top >= 4 && top < 6);
+        compare(path.mapToItem(row, 0, 0).y, top + name.height + 3);
+        verify(Math.abs(row.height - top - (top + name.height + 3 + path.height)) <= 1, "in the middle");
         compare(name.font.pixelSize, Theme.body);
         compare(path.font.pixelSize, Theme.caption2);
         verify(Qt.colorEqual(path.color, Theme.tertiary));
+    }
+
+    function test_rows_2_apart_stand_on_whole_pixels_at_every_scale() {
+        const pitch = make().height + 2;
+        for (const scale of [1, 1.25, 1.5, 1.75, 2])
+            compare(pitch * scale, Math.round(pitch * scale), scale);
+    }
+
+    function test_check_box_is_pressed_in_all_of_the_rows_beginning() {
+        const row = make();
+        compare(checkBox(row).mapToItem(row, 0, 0), Qt.point(0, 0));
+        compare(checkBox(row).width, 36);
+        compare(checkBox(row).height, row.height);
+        for (const [x, y] of [[1, 1], [35, 1], [1, row.height - 1], [35, row.height - 1]])
+            mouseClick(row, x, y);
+        compare(toggles.count, 4);
+        mouseClick(row, 37, row.height / 2);
+        compare(toggles.count, 4);
+    }
+
+    function risks(): var {
+        return [
+            { riskColor: "green", riskLabel: "Safe to Clear", riskSymbol: "checkmark.circle.fill" },
+            { riskColor: "orange", riskLabel: "Review First", riskSymbol: "exclamationmark.triangle.fill" },
+            { riskColor: "red", riskLabel: "Protected", riskSymbol: "xmark.octagon.fill" }
+        ];
+    }
+
+    /// What stands in the row, from its beginning to its end.
+    function columns(row: ItemRowView): var {
+        const size = find.label(row, row.sizeText).parent;
+        const badge = find.seen(row).find(item => item instanceof RiskBadge);
+        return [checkBox(row), find.symbol(row, row.symbol).parent, find.label(row, row.name).parent, find.button(row, "Information"), badge, find.label(row, row.dateText), size].filter(item => item);
+    }
+
+    function test_a_name_keeps_140_before_the_date_and_the_words_of_the_risk_data() {
+        return [
+            { tag: "in a window of 640", width: 640 - 241 - 16, date: false, words: false },
+            { tag: "just too narrow for the words", width: 462, date: false, words: false },
+            { tag: "in a window of 720", width: 720 - 241 - 16, date: false, words: true },
+            { tag: "just too narrow for the date", width: 544, date: false, words: true },
+            { tag: "wide enough for all", width: 545, date: true, words: true },
+            { tag: "in a window of 900", width: 900 - 241 - 16, date: true, words: true }
+        ];
+    }
+
+    function test_a_name_keeps_140_before_the_date_and_the_words_of_the_risk(data) {
+        for (const risk of risks()) {
+            for (const hasNote of [true, false]) {
+                const row = make(Object.assign({ width: data.width, hasNote: hasNote, name: "n".repeat(255), sizeText: "888.88 GB" }, risk));
+                const label = find.label(row, row.name);
+                tryVerify(() => label.width >= 140, 1000, `${risk.riskLabel} ${label.width}`);
+                compare(find.label(row, row.dateText) !== null, data.date);
+                const badge = find.seen(row).find(item => item instanceof RiskBadge);
+                compare(badge.width > 40, data.words);
+                verify(find.symbol(badge, risk.riskSymbol) !== null);
+                compare(find.control(row, Accessible.StaticText, risk.riskLabel) !== null, true);
+                const stand = columns(row);
+                for (let index = 1; index < stand.length; ++index)
+                    verify(leftOf(stand[index], row) >= rightOf(stand[index - 1], row), `${index}`);
+                verify(stand.every(item => item.width > 0));
+                compare(rightOf(stand[stand.length - 1], row), data.width - 8);
+            }
+        }
     }
 
     function test_sizes_line_up_digit_by_digit() {
@@ -261,7 +329,7 @@ TestCase {
     }
 
     function test_stays_in_its_columns_at_any_width_data() {
-        return [{ tag: "narrow", width: 620 }, { tag: "wide", width: 2300 }];
+        return [{ tag: "narrowest", width: 383 }, { tag: "narrow", width: 620 }, { tag: "wide", width: 2300 }];
     }
 
     function test_stays_in_its_columns_at_any_width(data) {
@@ -274,7 +342,7 @@ TestCase {
         const row = make();
         row.LayoutMirroring.enabled = true;
         row.LayoutMirroring.childrenInherit = true;
-        compare(rightOf(checkBox(row), row), row.width - 8);
+        compare(rightOf(checkBox(row), row), row.width);
         compare(leftOf(find.label(row, "1.1 GB"), row), 8);
         compare(find.label(row, "npm cache").effectiveHorizontalAlignment, Text.AlignRight);
     }

@@ -58,4 +58,15 @@ TestCase {
         compare(label.font.pixelSize, Theme.caption2);
         compare(symbol.size, Theme.caption2);
     }
+
+    function test_without_its_label_the_symbol_stands_alone_and_is_told() {
+        const item = createTemporaryObject(badge, test, { showsLabel: false });
+        const whole = createTemporaryObject(badge, test);
+        const symbol = find.symbol(item, "checkmark.circle.fill");
+        compare(item.width, 8 + symbol.width + 8);
+        compare(item.height, whole.height);
+        compare(symbol.mapToItem(item, 0, 0).x, 8);
+        compare(find.labels(item).map(label => label.Accessible.name), ["Safe to Clear"]);
+        compare(find.labels(whole).map(label => label.Accessible.name), ["Safe to Clear"]);
+    }
 }
