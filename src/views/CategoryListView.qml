@@ -45,26 +45,38 @@ FocusScope {
             sizeText: pane.sizeText
         }
 
-        RowLayout {
+        // Where one line is too short for all, the summary has a line of its own.
+        GridLayout {
+            readonly property bool isWide: buttons.implicitWidth + columnSpacing + summary.implicitWidth + 2 * Theme.space16 <= pane.width
+
             Layout.leftMargin: Theme.space16
             Layout.rightMargin: Theme.space16
-            spacing: Theme.space8
+            columns: isWide ? 2 : 1
+            columnSpacing: Theme.space16
+            rowSpacing: Theme.space8
 
-            PillButton {
-                label: "Select All Safe"
-                variant: "secondary"
-                onClicked: pane.selectAllPressed()
-            }
+            RowLayout {
+                id: buttons
 
-            PillButton {
-                label: "Deselect All"
-                variant: "secondary"
-                onClicked: pane.deselectAllPressed()
+                spacing: Theme.space8
+
+                PillButton {
+                    label: "Select All Safe"
+                    variant: "secondary"
+                    onClicked: pane.selectAllPressed()
+                }
+
+                PillButton {
+                    label: "Deselect All"
+                    variant: "secondary"
+                    onClicked: pane.deselectAllPressed()
+                }
             }
 
             PlainLabel {
+                id: summary
+
                 Layout.fillWidth: true
-                Layout.leftMargin: Theme.space8
                 text: pane.categorySummary
                 color: Theme.blue
                 font.pixelSize: Theme.caption
@@ -79,13 +91,16 @@ FocusScope {
             Layout.fillWidth: true
             Layout.margins: Theme.space16
             Layout.topMargin: Theme.space12
-            Layout.bottomMargin: Theme.space12
+            // So that the rows begin on a whole pixel at 125, 150 and 175 % too.
+            Layout.bottomMargin: Math.ceil((y + height + Theme.space12 + line.height) / 4) * 4 - y - height - line.height
             searchText: pane.searchText
             onEdited: text => pane.searchEdited(text)
             onMovedDown: list.enter()
         }
 
         Divider {
+            id: line
+
             Layout.fillWidth: true
         }
 

@@ -67,6 +67,6 @@ Item {
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Theme.space24
-        width: Math.min(440, parent.width)
+        width: Math.min(440, parent.width - 2 * Theme.space16)
     }
 }

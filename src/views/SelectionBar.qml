@@ -18,14 +18,24 @@ ColumnLayout {
         shown: bar.hasBrowserData
     }
 
-    RowLayout {
+    // Where one line is too short for all, the summary has a line of its own; where that of the buttons
+    // is too short as well, they get narrower.
+    GridLayout {
+        id: line
+
+        readonly property bool isWide: summary.implicitWidth + buttons.implicitWidth + columnSpacing + 2 * Theme.space16 <= bar.width
+
         Layout.fillWidth: true
         Layout.margins: 12
         Layout.leftMargin: Theme.space16
         Layout.rightMargin: Theme.space16
-        spacing: 16
+        columns: line.isWide ? 2 : 1
+        columnSpacing: 16
+        rowSpacing: Theme.space8
 
         PlainLabel {
+            id: summary
+
             Layout.fillWidth: true
             text: bar.summary
             color: Theme.secondary
@@ -34,17 +44,30 @@ ColumnLayout {
             horizontalAlignment: Text.AlignLeft
         }
 
-        PillButton {
-            label: "Clear Selection"
-            variant: "secondary"
-            onClicked: bar.clearPressed()
-        }
+        RowLayout {
+            id: buttons
 
-        PillButton {
-            label: "Delete Selected"
-            symbol: "trash"
-            variant: "danger"
-            onClicked: bar.deletePressed()
+            Layout.alignment: Qt.AlignRight
+            Layout.fillWidth: !line.isWide
+            Layout.maximumWidth: buttons.implicitWidth
+            spacing: 16
+
+            PillButton {
+                Layout.fillWidth: !line.isWide
+                Layout.maximumWidth: Math.ceil(implicitWidth)
+                label: "Clear Selection"
+                variant: "secondary"
+                onClicked: bar.clearPressed()
+            }
+
+            PillButton {
+                Layout.fillWidth: !line.isWide
+                Layout.maximumWidth: Math.ceil(implicitWidth)
+                label: "Delete Selected"
+                symbol: "trash"
+                variant: "danger"
+                onClicked: bar.deletePressed()
+            }
         }
     }
 }

@@ -4,68 +4,98 @@
 
 #include <QCoreApplication>
 #include <QSemaphore>
+#include <QStringList>
 #include <QThreadPool>
 
 #include <memory>
+#include <string>
 
 namespace drossbin::test {
 
-/// A session that finds three items in each category, touches no disk, and whose runs last until
-/// they are told to finish.
+/// A session that finds three items in each category or as many as it is told to, touches no disk,
+/// and whose runs last until they are told to finish.
 class HeldSession : public ContentView {
     Q_OBJECT
+    Q_PROPERTY(int perCategory READ perCategory WRITE setPerCategory)
+    Q_PROPERTY(QString firstName READ firstName WRITE setFirstName)
+    Q_PROPERTY(QStringList log READ log WRITE setLog)
 
   public:
     HeldSession()
-        : HeldSession(std::make_shared<QSemaphore>()) {}
+        : HeldSession(std::make_shared<Runs>()) {}
     ~HeldSession() override {
-        m_gate->release(someRuns);
+        m_runs->gate.release(someRuns);
         settle();
     }
     Q_DISABLE_COPY_MOVE(HeldSession)
 
     /// Lets the run that is under way come to its end.
     Q_INVOKABLE void finish() {
-        m_gate->release();
+        m_runs->gate.release();
         settle();
     }
+
+    [[nodiscard]] int perCategory() const { return m_runs->perCategory; }
+    void setPerCategory(int count) { m_runs->perCategory = count; }
+
+    /// The name of the first item, if it is to have one of its own.
+    [[nodiscard]] QString firstName() const { return m_runs->firstName; }
+    void setFirstName(const QString& name) { m_runs->firstName = name; }
+
+    /// What the next deletion says of its items.
+    [[nodiscard]] QStringList log() const { return m_runs->log; }
+    void setLog(const QStringList& lines) { m_runs->log = lines; }
 
   private:
     static constexpr int someRuns = 9;
 
-    explicit HeldSession(const std::shared_ptr<QSemaphore>& gate)
-        : ContentView(services(gate))
-        , m_gate(gate) {}
+    struct Runs {
+        QSemaphore gate;
+        int perCategory = 3;
+        QString firstName;
+        QStringList log;
+    };
 
-    static Services services(const std::shared_ptr<QSemaphore>& gate) {
+    explicit HeldSession(const std::shared_ptr<Runs>& runs)
+        : ContentView(services(runs))
+        , m_runs(runs) {}
+
+    static Services services(const std::shared_ptr<Runs>& runs) {
         return {
             .scan =
-                [gate](const DiskScanner::Progress&) {
-                    gate->acquire();
-                    return found();
+                [runs](const DiskScanner::Progress&) {
+                    runs->gate.acquire();
+                    return found(*runs);
                 },
-            .demoItems = found,
+            .demoItems = [runs] { return found(*runs); },
             .deleteItems =
-                [gate](const auto&, const auto&) {
-                    gate->acquire();
-                    return DiskCleaner::Outcome{};
+                [runs](const auto&, const auto&) {
+                    runs->gate.acquire();
+                    DiskCleaner::Outcome outcome;
+                    for (const QString& line : runs->log) {
+                        outcome.log.push_back(line.toStdString());
+                    }
+                    return outcome;
                 },
             .diskSpace = [] { return 1'000'000'000'000; },
             .sleep = [](std::chrono::nanoseconds) -> QCoro::Task<> { co_return; },
         };
     }
 
-    static std::vector<DiskItem> found() {
+    static std::vector<DiskItem> found(const Runs& runs) {
         std::vector<DiskItem> items;
         for (const DiskCategory category : allDiskCategories) {
-            for (const char* number : {"1", "2", "3"}) {
+            for (int number = 1; number <= runs.perCategory; ++number) {
                 DiskItem item;
-                item.name = std::string(rawValue(category)) + " " + number;
+                item.name = std::string(rawValue(category)) + " " + std::to_string(number);
                 item.path = "/home/ada/" + item.name;
                 item.size = 1'000'000;
                 item.category = category;
                 items.push_back(item);
             }
+        }
+        if (!items.empty() && !runs.firstName.isEmpty()) {
+            items.front().name = runs.firstName.toStdString();
         }
         return items;
     }
@@ -76,7 +106,7 @@ class HeldSession : public ContentView {
         QCoreApplication::processEvents();
     }
 
-    std::shared_ptr<QSemaphore> m_gate;
+    std::shared_ptr<Runs> m_runs;
 };
 
 } // namespace drossbin::test

@@ -159,6 +159,29 @@ TestCase {
         compare(row(1).y - row(0).y - row(0).height, 2);
     }
 
+    function test_rows_begin_on_whole_pixels_at_every_scale() {
+        for (let index = 0; index < 5; ++index) {
+            for (const scale of [1, 1.25, 1.5, 1.75, 2])
+                compare(topOf(row(index)) * scale % 1, 0, `row ${index} at ${scale}`);
+        }
+    }
+
+    function test_filter_stands_12_from_what_is_below_it_or_hardly_more() {
+        const gap = topOf(list()) - 1 - topOf(filter().parent.parent) - filter().parent.parent.height;
+        verify(gap >= 12 && gap < 16, gap);
+    }
+
+    function test_a_page_is_what_is_in_view() {
+        compare(list().page, Math.floor(list().height / (row(0).height + 2)));
+        list().enter();
+        keyClick(Qt.Key_PageDown);
+        compare(list().currentIndex, list().page);
+        compare(list().currentItem.activeFocus, true);
+        keyClick(Qt.Key_PageUp);
+        compare(list().currentIndex, 0);
+        compare(row(0).activeFocus, true);
+    }
+
     function test_no_items_leave_the_list_empty_and_the_rest_in_place() {
         const before = topOf(list());
         fill(0);

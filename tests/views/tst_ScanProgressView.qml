@@ -141,7 +141,7 @@ TestCase {
         fuzzyCompare(tip.x + tip.width / 2, 330, 0.6);
         view.anchors.fill = null;
         view.width = 400;
-        compare(tip.width, 400);
+        compare(tip.width, 400 - 32);
     }
 
     function test_tip_is_padded_20_at_the_sides_and_12_above_and_below() {

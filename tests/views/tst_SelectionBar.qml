@@ -79,6 +79,27 @@ TestCase {
         compare(remove.mapToItem(bar, remove.width, 0).x, bar.width - Theme.space16);
     }
 
+    function test_in_a_narrow_window_the_summary_has_a_line_of_its_own_data() {
+        return [{ tag: "the buttons fit", width: 480 }, { tag: "the buttons get narrower", width: 640 - 241 }];
+    }
+
+    function test_in_a_narrow_window_the_summary_has_a_line_of_its_own(data) {
+        bar.width = data.width;
+        bar.summary = "100,000 items · 9.22 EB";
+        waitForRendering(bar, 100);
+        const summary = find.label(bar, bar.summary);
+        const clear = find.button(bar, "Clear Selection");
+        const remove = find.button(bar, "Delete Selected");
+        compare(summary.truncated, false);
+        verify(summary.width >= summary.contentWidth);
+        compare(clear.mapToItem(bar, 0, 0).y, summary.mapToItem(bar, 0, summary.height).y + 8);
+        verify(clear.mapToItem(bar, 0, 0).x >= 0);
+        compare(remove.mapToItem(bar, 0, 0).x, clear.mapToItem(bar, clear.width, 0).x + 16);
+        compare(remove.mapToItem(bar, remove.width, 0).x, bar.width - 16);
+        bar.width = 660;
+        bar.summary = "3 items · 4 MB";
+    }
+
     function test_without_browser_data_there_is_no_warning() {
         compare(find.label(bar, test.warning), null);
     }

@@ -42,13 +42,15 @@ Item {
                 id: session
 
                 Session {
-                    anchors.fill: parent
+                    width: host.width
+                    height: host.height
                 }
             }
 
             function init() {
                 failOnWarning(/.?/);
                 Theme.animated = false;
+                resize({ width: 900, height: 650 });
             }
 
             // The screens before their state.
@@ -58,8 +60,8 @@ Item {
             }
 
             /// A session after a scan, at its overview.
-            function make(): Session {
-                const state = createTemporaryObject(content, test);
+            function make(properties: var): Session {
+                const state = createTemporaryObject(content, test, properties ?? {});
                 test.made = session.createObject(test, { content: state });
                 test.made.forceActiveFocus();
                 state.startScan(true);
@@ -67,6 +69,98 @@ Item {
                 state.selectedCategory = -1;
                 tryCompare(state, "screen", ContentView.Overview);
                 return test.made;
+            }
+
+            function resize(size: var) {
+                host.width = size.width;
+                host.height = size.height;
+            }
+
+            /// What is read or pressed, but for rows that a list cuts at its edge.
+            function things(made: Session): var {
+                const roles = [Accessible.StaticText, Accessible.Button, Accessible.CheckBox, Accessible.EditableText];
+                const all = find.seen(made).filter(item => roles.includes(item.Accessible.role) && !item.Accessible.ignored);
+                return all.filter(item => !isCut(item));
+            }
+
+            function isCut(item: Item): bool {
+                let view = item.parent;
+                while (view && view.contentY === undefined)
+                    view = view.parent;
+                const place = view ? item.mapToItem(view, 0, 0) : null;
+                return view !== null && (place.y < 0 || place.y + item.height > view.height);
+            }
+
+            function isIn(item: Item, outer: Item): bool {
+                return item !== null && (item === outer || isIn(item.parent, outer));
+            }
+
+            function told(item: Item): string {
+                return `${item.Accessible.name}: ${area(item)}`;
+            }
+
+            function area(item: Item): rect {
+                const place = item.mapToItem(null, 0, 0);
+                return Qt.rect(place.x, place.y, item.width, item.height);
+            }
+
+            function overlap(one: rect, other: rect): bool {
+                return Math.min(one.right, other.right) - Math.max(one.left, other.left) > 0.5 && Math.min(one.bottom, other.bottom) - Math.max(one.top, other.top) > 0.5;
+            }
+
+            /// That all is inside the window and nothing stands on anything else.
+            function verifyPlaces(made: Session, texts: var) {
+                waitForRendering(made, 100);
+                const all = things(made);
+                all.forEach((one, index) => {
+                    const place = area(one);
+                    verify(place.width >= 0 && place.x >= 0 && place.right <= host.width, told(one));
+                    verify(place.y >= 0 && place.bottom <= host.height, told(one));
+                    const others = all.slice(index + 1).filter(other => !isIn(other, one));
+                    others.forEach(other => verify(!overlap(place, area(other)), `${told(one)} on ${told(other)}`));
+                });
+                for (const text of texts) {
+                    const label = all.find(item => item.text === text);
+                    verify(label && !label.truncated && label.contentWidth <= label.width + 0.5, text);
+                }
+            }
+
+            function windows(): var {
+                return [
+                    { tag: "640 x 400", width: 640, height: 400 },
+                    { tag: "700 x 440", width: 700, height: 440 },
+                    { tag: "900 x 614", width: 900, height: 614 },
+                    { tag: "900 x 650", width: 900, height: 650 }
+                ];
+            }
+
+            function test_everything_has_its_place_in_any_window_data() {
+                return windows();
+            }
+
+            function test_everything_has_its_place_in_any_window(data) {
+                resize(data);
+                const made = make({ perCategory: 22, firstName: "Firefox" });
+                verifyPlaces(made, ["110 items found · 110 MB total"]);
+                made.content.smartSelect();
+                tryVerify(() => find.button(made, "Delete 110 MB") !== null);
+                verifyPlaces(made, ["Program Caches", "22 items · 22 MB", "Space to Reclaim"]);
+                const names = ["Program Caches", "Package Caches", "App Data", "Log Files", "Old Downloads"];
+                for (let category = 0; category < names.length; ++category) {
+                    made.content.selectedCategory = category;
+                    tryCompare(made.content, "categoryName", names[category]);
+                    tryVerify(() => find.button(made, "Delete Selected") !== null);
+                    verifyPlaces(made, [names[category], made.content.categorySubtitle, "22 selected · 22 MB", "110 items · 110 MB"]);
+                    const list = find.control(made, Accessible.List, "Items");
+                    verify(list.height >= list.itemAtIndex(0).height + 4, "a row is in view");
+                }
+                made.content.startScan(false);
+                tryCompare(made.content, "screen", ContentView.Scanning);
+                verifyPlaces(made, ["Scanning your Mac..."]);
+                made.content.perCategory = 0;
+                made.content.finish();
+                tryCompare(made.content, "screen", ContentView.Empty);
+                verifyPlaces(made, ["Your Mac is clean!"]);
             }
 
             function filter(made: Session): Item {
