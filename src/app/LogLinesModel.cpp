@@ -2,7 +2,16 @@
 
 #include "app/Texts.h"
 
+#include <algorithm>
+
 namespace drossbin {
+namespace {
+
+bool isSuccess(std::string_view line) {
+    return line.starts_with("✅");
+}
+
+} // namespace
 
 int LogLinesModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(m_lines.size());
@@ -17,7 +26,7 @@ QVariant LogLinesModel::data(const QModelIndex& index, int role) const {
     case TextRole:
         return toQString(line);
     case IsSuccessRole:
-        return line.starts_with("✅");
+        return isSuccess(line);
     default:
         return {};
     }
@@ -27,6 +36,16 @@ QHash<int, QByteArray> LogLinesModel::roleNames() const {
     return {{TextRole, "text"}, {IsSuccessRole, "isSuccess"}};
 }
 
+int LogLinesModel::firstFailure() const {
+    const auto line = std::ranges::find_if_not(m_lines, isSuccess);
+    return line == m_lines.end() ? -1 : static_cast<int>(line - m_lines.begin());
+}
+
+QString LogLinesModel::failure() const {
+    const int row = firstFailure();
+    return row < 0 ? QString() : toQString(m_lines[static_cast<std::size_t>(row)]);
+}
+
 void LogLinesModel::refresh(const std::vector<std::string>& lines) {
     if (lines == m_lines) {
         return;
@@ -34,6 +53,7 @@ void LogLinesModel::refresh(const std::vector<std::string>& lines) {
     beginResetModel();
     m_lines = lines;
     endResetModel();
+    emit linesChanged();
 }
 
 } // namespace drossbin

@@ -20,6 +20,8 @@ QVariant SelectedItemsModel::data(const QModelIndex& index, int role) const {
     switch (role) {
     case NameRole:
         return displayQString(item->name);
+    case PathRole:
+        return displayQString(item->path);
     case SizeTextRole:
         return toQString(item->formattedSize());
     case RiskColorRole:
@@ -34,11 +36,9 @@ QVariant SelectedItemsModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> SelectedItemsModel::roleNames() const {
-    return {{NameRole, "name"},
-            {SizeTextRole, "sizeText"},
-            {RiskColorRole, "riskColor"},
-            {RiskLabelRole, "riskLabel"},
-            {RiskSymbolRole, "riskSymbol"}};
+    return {{NameRole, "name"},           {PathRole, "path"},
+            {SizeTextRole, "sizeText"},   {RiskColorRole, "riskColor"},
+            {RiskLabelRole, "riskLabel"}, {RiskSymbolRole, "riskSymbol"}};
 }
 
 void SelectedItemsModel::refresh(const ItemSurvey& survey) {

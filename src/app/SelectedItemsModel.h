@@ -16,6 +16,7 @@ class SelectedItemsModel : public QAbstractListModel {
   public:
     enum Role {
         NameRole = Qt::UserRole,
+        PathRole,
         SizeTextRole,
         RiskColorRole,
         RiskLabelRole,

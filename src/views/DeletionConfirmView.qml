@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Layouts
 
 /// Asks whether the selected items may go for good, and warns when a browser's are among them.
-FocusScope {
+SheetPage {
     id: view
 
     required property string title
@@ -16,90 +16,76 @@ FocusScope {
     signal cancelled
 
     implicitWidth: 480
-    implicitHeight: column.implicitHeight + 48
+    listName: "Selected items"
+    highest: 200
+    pitch: 28
+    model: view.selectedItems
 
-    ColumnLayout {
-        id: column
+    delegate: SelectedItemRow {
+        width: ListView.view.width
+        height: view.pitch
+    }
 
-        anchors.fill: parent
-        anchors.margins: 24
-        spacing: 20
-
-        Symbol {
-            Layout.alignment: Qt.AlignHCenter
-            name: "exclamationmark.triangle.fill"
-            color: Theme.symbolOrange
-            size: 40
-        }
-
-        Column {
-            Layout.alignment: Qt.AlignHCenter
-            spacing: Theme.space4
-
-            PlainLabel {
-                anchors.horizontalCenter: parent.horizontalCenter
-                text: view.title
-                font.pixelSize: Theme.title2
-                font.weight: Font.Bold
-            }
-
-            PlainLabel {
-                anchors.horizontalCenter: parent.horizontalCenter
-                text: "This action cannot be undone."
-                color: Theme.secondary
-            }
-        }
-
-        Row {
-            Layout.alignment: Qt.AlignHCenter
-            spacing: Theme.space8
-
-            PlainLabel {
-                text: "Space to be reclaimed:"
-                color: Theme.secondary
-            }
-
-            PlainLabel {
-                text: view.selectedSizeText
-                font.weight: Font.DemiBold
-            }
-        }
-
-        BrowserAlert {
+    buttons: [
+        PillButton {
             Layout.fillWidth: true
-            visible: view.hasBrowserItems
-        }
-
-        SheetList {
+            Layout.preferredWidth: 1
+            focus: true
+            label: "Cancel"
+            variant: "secondary"
+            onClicked: view.cancelled()
+        },
+        PillButton {
             Layout.fillWidth: true
-            highest: 200
-            name: "Selected items"
-            model: view.selectedItems
+            Layout.preferredWidth: 1
+            label: "Confirm & Delete"
+            variant: "danger"
+            onClicked: view.confirmed()
+        }
+    ]
 
-            delegate: SelectedItemRow {
-                width: ListView.view.width
-            }
+    Symbol {
+        Layout.alignment: Qt.AlignHCenter
+        name: "exclamationmark.triangle.fill"
+        color: Theme.symbolOrange
+        size: 40
+    }
+
+    Column {
+        Layout.alignment: Qt.AlignHCenter
+        spacing: Theme.space4
+
+        PlainLabel {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: view.title
+            font.pixelSize: Theme.title2
+            font.weight: Font.Bold
         }
 
-        RowLayout {
-            spacing: Theme.space12
-
-            PillButton {
-                Layout.fillWidth: true
-                Layout.preferredWidth: 1
-                focus: true
-                label: "Cancel"
-                variant: "secondary"
-                onClicked: view.cancelled()
-            }
-
-            PillButton {
-                Layout.fillWidth: true
-                Layout.preferredWidth: 1
-                label: "Confirm & Delete"
-                variant: "danger"
-                onClicked: view.confirmed()
-            }
+        PlainLabel {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: "This action cannot be undone."
+            color: Theme.secondary
         }
+    }
+
+    Row {
+        Layout.alignment: Qt.AlignHCenter
+        spacing: Theme.space8
+
+        PlainLabel {
+            text: "Space to be reclaimed:"
+            color: Theme.secondary
+        }
+
+        PlainLabel {
+            text: view.selectedSizeText
+            font.weight: Font.DemiBold
+        }
+    }
+
+    BrowserAlert {
+        Layout.fillWidth: true
+        visible: view.hasBrowserItems
     }
 }

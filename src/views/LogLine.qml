@@ -1,13 +1,16 @@
 import QtQuick
 
 /// What became of one item, however long that is: why it failed stands at the end. Failures are red.
+/// All lines of a log are equally far apart, so that one always sees where it is cut.
 Item {
     id: line
 
     required property string text
     required property bool isSuccess
 
-    implicitHeight: label.implicitHeight + Theme.space8
+    readonly property int pitch: 18
+
+    implicitHeight: label.lineCount * line.pitch
     Accessible.role: Accessible.ListItem
     Accessible.name: line.text
 
@@ -19,12 +22,21 @@ Item {
             right: parent.right
             leftMargin: Theme.space12
             rightMargin: Theme.space12
-            verticalCenter: parent.verticalCenter
         }
+        // In the middle of its lines: what they are higher than the text is below each.
+        y: (line.pitch - metrics.height) / 2
+        lineHeight: line.pitch
+        lineHeightMode: Text.FixedHeight
         text: line.text
         color: line.isSuccess ? Theme.label : Theme.red
         font.pixelSize: Theme.caption
         wrapMode: Text.Wrap
         horizontalAlignment: Text.AlignLeft
+    }
+
+    FontMetrics {
+        id: metrics
+
+        font: label.font
     }
 }

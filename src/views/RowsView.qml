@@ -19,6 +19,12 @@ ListView {
         return label?.truncated ? label.text : "";
     }
 
+    /// What the tip says at a place of the view.
+    function hintAt(x: real, y: real): string {
+        const row = rows.itemAt(x + rows.contentX, y + rows.contentY) as SelectedItemRow;
+        return row?.path ?? rows.cutTextAt(x, y);
+    }
+
     function scrollBy(distance: real): void {
         const top = rows.originY - rows.topMargin;
         const bottom = rows.originY + rows.contentHeight + rows.bottomMargin - rows.height;
@@ -43,7 +49,7 @@ ListView {
     Tip {
         id: tip
 
-        text: pointer.hovered && !rows.moving ? rows.cutTextAt(pointer.place.x, pointer.place.y) : ""
+        text: pointer.hovered && !rows.moving ? rows.hintAt(pointer.place.x, pointer.place.y) : ""
         x: Math.min(pointer.place.x, rows.width - tip.implicitWidth - Theme.space8)
         y: pointer.place.y + Theme.space20
         visible: text !== ""

@@ -5,15 +5,16 @@ Item {
     id: row
 
     required property string name
+    required property string path
     required property string sizeText
     required property string riskSymbol
     required property string riskColor
     required property string riskLabel
 
-    implicitHeight: 28
     Accessible.role: Accessible.ListItem
     Accessible.name: row.name
-    Accessible.description: row.riskLabel
+    // The path tells items of one name apart.
+    Accessible.description: `${row.riskLabel}, ${row.path}`
 
     Symbol {
         id: symbol
@@ -41,7 +42,7 @@ Item {
         horizontalAlignment: Text.AlignLeft
     }
 
-    PlainLabel {
+    FigureLabel {
         id: size
 
         anchors {
@@ -49,7 +50,7 @@ Item {
             rightMargin: Theme.space12
             verticalCenter: parent.verticalCenter
         }
-        text: row.sizeText
+        figures: row.sizeText
         color: Theme.secondary
     }
 }

@@ -25,12 +25,15 @@ Item {
     }
 
     Sheet {
+        id: confirmation
+
         shown: sheets.content.showConfirmation
         name: sheets.content.confirmationTitle
         onEscaped: sheets.content.cancelDeletion()
 
         DeletionConfirmView {
             focus: true
+            tallest: confirmation.tallest
             title: sheets.content.confirmationTitle
             selectedSizeText: sheets.content.selectedSizeText
             hasBrowserItems: sheets.content.hasBrowserData
@@ -53,15 +56,19 @@ Item {
     }
 
     Sheet {
+        id: completion
+
         shown: sheets.content.showDeletionComplete
         name: "Cleanup Complete!"
-        description: `You freed ${sheets.content.freedSpaceText}`
+        description: [`You freed ${sheets.content.freedSpaceText}`, sheets.content.deletionLog.failure].join("\n").trim()
         onEscaped: sheets.content.dismissCompletion()
 
         DeletionCompleteView {
             focus: true
+            tallest: completion.tallest
             freedSpaceText: sheets.content.freedSpaceText
             log: sheets.content.deletionLog
+            firstFailure: sheets.content.deletionLog.firstFailure
             onDismissed: sheets.content.dismissCompletion()
         }
     }

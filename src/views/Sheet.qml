@@ -12,6 +12,8 @@ T.Popup {
     required property string name
     /// What a screen reader says after the name, if anything.
     property string description: ""
+    /// How high its content may be: something of the window is seen all around it.
+    readonly property real tallest: sheet.parent.height - 2 * Theme.space16
     /// How much of the way it is away: at 1 it stands right above the window's edge. (Not by `y`:
     /// Qt makes a popup lower where it would reach over the edge.)
     property real away: 0

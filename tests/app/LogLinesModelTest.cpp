@@ -41,6 +41,21 @@ TEST_F(LogLines, are_a_success_only_when_they_start_with_the_check_mark) {
     EXPECT_FALSE(isSuccess(3));
 }
 
+TEST_F(LogLines, tell_which_is_the_first_failure_and_what_it_says) {
+    model.refresh({"✅ Deleted: a (4 MB)", "❌ Failed: b — no", "❌ Failed: c — no"});
+    EXPECT_EQ(model.firstFailure(), 1);
+    EXPECT_EQ(model.failure(), "❌ Failed: b — no");
+}
+
+TEST_F(LogLines, without_a_failure_tell_of_none) {
+    model.refresh({"❌ Failed: b — no"});
+    model.refresh({"✅ Deleted: a (4 MB)"});
+    EXPECT_EQ(model.firstFailure(), -1);
+    EXPECT_EQ(model.failure(), "");
+    model.refresh({});
+    EXPECT_EQ(model.firstFailure(), -1);
+}
+
 TEST_F(LogLines, may_be_the_same_twice) {
     model.refresh({"❌ Failed: a — no", "❌ Failed: a — no"});
     EXPECT_EQ(model.rowCount(), 2);

@@ -68,6 +68,16 @@ TEST_F(SelectedItems, tell_name_size_and_risk) {
     EXPECT_EQ(at(2, "sizeText"), "Zero KB");
 }
 
+TEST_F(SelectedItems, of_one_name_are_told_apart_by_their_paths) {
+    DiskItem one = selected(item("a", 1));
+    DiskItem other = one;
+    one.path = "/home/ada/one/a";
+    other.path = "/home/ada/ot\nher/a";
+    show({one, other});
+    EXPECT_EQ(at(0, "path"), "/home/ada/one/a");
+    EXPECT_EQ(at(1, "path"), "/home/ada/ot\\nher/a");
+}
+
 TEST_F(SelectedItems, follow_the_selection) {
     show({selected(item("a", 2)), item("b", 1)});
     view.smartSelect();

@@ -46,8 +46,10 @@ TestCase {
         DeletionCompleteView {
             property int dismissals: 0
 
+            tallest: 618
             freedSpaceText: "1.1 GB"
             log: lines
+            firstFailure: -1
             onDismissed: ++dismissals
         }
     }
@@ -93,14 +95,43 @@ TestCase {
 
     function test_stands_20_apart_padded_24() {
         const view = make();
-        const column = view.children[0];
-        compare(column.mapToItem(view, 0, 0), Qt.point(24, 24));
-        compare(column.height, view.height - 48);
-        let bottom = -20;
-        for (let index = 0; index < column.children.length; ++index) {
-            compare(column.children[index].y, bottom + 20);
-            bottom = column.children[index].y + column.children[index].height;
+        const blocks = [find.symbol(view, "checkmark.circle.fill"), find.label(view, "Cleanup Complete!"), find.label(view, "You freed").parent, list(view).parent, find.button(view, "Done")];
+        let bottom = 24 - 20;
+        for (const block of blocks) {
+            compare(block.mapToItem(view, 0, 0).y, bottom + 20);
+            bottom += 20 + block.height;
         }
+        compare(bottom, view.height - 24);
+        compare(list(view).parent.mapToItem(view, 0, 0).x, 24);
+        compare(list(view).parent.width, view.width - 48);
+    }
+
+    function test_symbol_is_green_only_when_nothing_failed() {
+        const symbol = view => find.symbol(view, "checkmark.circle.fill").color;
+        verify(Qt.colorEqual(symbol(make()), Theme.symbolGreen));
+        verify(Qt.colorEqual(symbol(make({ firstFailure: 0 })), Theme.symbolOrange));
+    }
+
+    function test_the_first_failure_is_in_view_when_it_opens_data() {
+        return [{ tag: "the first of all", row: 0 }, { tag: "in the middle", row: 500 }, { tag: "the last", row: 999 }];
+    }
+
+    function test_the_first_failure_is_in_view_when_it_opens(data) {
+        many.setProperty(data.row, "text", "❌ Failed: x — no");
+        const view = make({ log: many, firstFailure: data.row, visible: false });
+        view.visible = true;
+        const line = find.label(list(view), "❌ Failed: x — no");
+        many.setProperty(data.row, "text", "✅ Deleted: item (1 KB)");
+        verify(line !== null);
+        const top = line.mapToItem(list(view), 0, 0).y;
+        verify(top >= 0);
+        verify(top + line.height <= list(view).height);
+    }
+
+    function test_without_a_failure_it_opens_at_its_first_line() {
+        const view = make({ log: many, visible: false });
+        view.visible = true;
+        compare(list(view).contentY, -4);
     }
 
     function test_failures_are_red_and_the_rest_is_not() {
@@ -122,8 +153,8 @@ TestCase {
         const line = find.label(make({ log: model }), text);
         verify(line.lineCount > 3);
         compare(line.truncated, false);
+        compare(line.parent.height, line.lineCount * 18);
         compare(line.height, line.contentHeight);
-        compare(line.parent.height, line.height + 8);
     }
 
     function test_lines_are_list_items_named_after_what_they_say() {
@@ -133,9 +164,29 @@ TestCase {
 
     function test_list_is_at_most_120_high_and_builds_only_what_is_in_view() {
         const view = make({ log: many });
-        compare(list(view).parent.height, 120);
+        verify(list(view).parent.height <= 120);
         verify(list(view).contentItem.children.length < 40);
         verify(list(make()).parent.height < 120);
+    }
+
+    function test_a_log_that_goes_on_is_cut_through_a_line_data() {
+        return [
+            { tag: "where there is room", tallest: 618, long: false, lines: 5.5 },
+            { tag: "after a long line", tallest: 618, long: true, lines: 5.5 },
+            { tag: "where it is low", tallest: 368, long: true, lines: 2.5 }
+        ];
+    }
+
+    function test_a_log_that_goes_on_is_cut_through_a_line(data) {
+        many.setProperty(0, "text", data.long ? "✅ Deleted: " + "a long name ".repeat(15) : "✅ Deleted: a");
+        const view = make({ log: many, tallest: data.tallest });
+        const edge = list(view).height;
+        compare(edge, 4 + data.lines * 18);
+        const row = list(view).itemAt(1, list(view).contentY + edge);
+        const label = find.labels(row)[0];
+        const inLine = (edge - label.mapToItem(list(view), 0, 0).y) % 18;
+        verify(inLine > 4 && inLine < 11, `${inLine}`);
+        many.setProperty(0, "text", "✅ Deleted: item 0 (1 KB)");
     }
 
     function test_an_empty_log_is_an_empty_list() {
@@ -157,6 +208,6 @@ TestCase {
     }
 
     function test_fits_into_the_smallest_window() {
-        verify(make({ log: many, freedSpaceText: "9,223.37 PB" }).height <= 650);
+        verify(make({ log: many, freedSpaceText: "9,223.37 PB" }).height <= 650 - 32);
     }
 }

@@ -19,28 +19,6 @@ TestCase {
 
     ListModel {
         id: three
-
-        ListElement {
-            name: "com.google.Chrome"
-            sizeText: "1.1 GB"
-            riskColor: "green"
-            riskLabel: "Safe to Clear"
-            riskSymbol: "checkmark.circle.fill"
-        }
-        ListElement {
-            name: "<h1>x</h1>"
-            sizeText: "888 MB"
-            riskColor: "orange"
-            riskLabel: "Review First"
-            riskSymbol: "exclamationmark.triangle.fill"
-        }
-        ListElement {
-            name: "Keychains"
-            sizeText: "1 byte"
-            riskColor: "red"
-            riskLabel: "Protected"
-            riskSymbol: "xmark.octagon.fill"
-        }
     }
 
     ListModel {
@@ -57,6 +35,7 @@ TestCase {
         DeletionConfirmView {
             property list<string> log: []
 
+            tallest: 618
             title: "Delete 3 items?"
             selectedSizeText: "2 GB"
             hasBrowserItems: false
@@ -68,11 +47,19 @@ TestCase {
 
     function initTestCase() {
         for (let index = 0; index < 1000; ++index)
-            many.append({ name: "item " + index, sizeText: "1 KB", riskColor: "green", riskLabel: "Safe to Clear", riskSymbol: "checkmark.circle.fill" });
+            many.append({ name: "item " + index, path: "/home/ada/item " + index, sizeText: "1 KB", riskColor: "green", riskLabel: "Safe to Clear", riskSymbol: "checkmark.circle.fill" });
+    }
+
+    function fill() {
+        three.clear();
+        for (const [name, size, color, label, symbol] of [["com.google.Chrome", "1.1 GB", "green", "Safe to Clear", "checkmark.circle.fill"],
+            ["<h1>x</h1>", "888 MB", "orange", "Review First", "exclamationmark.triangle.fill"], ["Keychains", "1 byte", "red", "Protected", "xmark.octagon.fill"]])
+            three.append({ name: name, path: "/home/ada/" + name, sizeText: size, riskColor: color, riskLabel: label, riskSymbol: symbol });
     }
 
     function init() {
         failOnWarning(/.?/);
+        fill();
         Theme.animated = false;
     }
 
@@ -99,15 +86,17 @@ TestCase {
 
     function test_stands_20_apart_padded_24() {
         const view = make({ hasBrowserItems: true });
-        const column = view.children[0];
-        compare(column.mapToItem(view, 0, 0), Qt.point(24, 24));
-        compare(column.width, view.width - 48);
-        compare(column.height, view.height - 48);
-        let bottom = -20;
-        for (let index = 0; index < column.children.length; ++index) {
-            compare(column.children[index].y, bottom + 20);
-            bottom = column.children[index].y + column.children[index].height;
+        const blocks = [find.symbol(view, "exclamationmark.triangle.fill"), find.label(view, view.title).parent, find.label(view, "2 GB").parent,
+            find.label(view, "Browser data selected").parent.parent, list(view).parent, find.button(view, "Cancel")];
+        let bottom = 24 - 20;
+        for (const block of blocks) {
+            compare(block.mapToItem(view, 0, 0).y, bottom + 20);
+            bottom += 20 + block.height;
         }
+        compare(bottom, view.height - 24);
+        compare(list(view).parent.mapToItem(view, 0, 0).x, 24);
+        compare(list(view).parent.width, view.width - 48);
+        compare(find.button(view, "Confirm & Delete").mapToItem(view, find.button(view, "Confirm & Delete").width, 0).x, view.width - 24);
     }
 
     function test_rows_carry_the_symbol_and_colour_of_their_risk() {
@@ -122,6 +111,24 @@ TestCase {
     function test_rows_are_list_items_named_after_their_items() {
         const rows = find.seen(list(make())).filter(item => item.Accessible.role === Accessible.ListItem);
         compare(rows.map(row => row.Accessible.name).join("|"), "com.google.Chrome|<h1>x</h1>|Keychains");
+    }
+
+    function test_items_of_one_name_are_told_apart_by_their_paths() {
+        const view = make();
+        const row = find.control(view, Accessible.ListItem, "Keychains");
+        compare(row.Accessible.description, "Protected, /home/ada/Keychains");
+        const place = row.mapToItem(list(view), 2, 2);
+        compare(list(view).hintAt(place.x, place.y), "/home/ada/Keychains");
+        compare(list(view).hintAt(2, list(view).height - 1), "");
+    }
+
+    function test_sizes_line_up_digit_by_digit() {
+        const widths = ["111.1 GB", "888.8 GB"].map(size => {
+            three.setProperty(0, "sizeText", size);
+            const label = find.label(make(), size);
+            return label.width;
+        });
+        compare(widths[0], widths[1]);
     }
 
     function test_sizes_end_in_one_column() {
@@ -161,7 +168,57 @@ TestCase {
     function test_list_is_as_high_as_its_rows_but_at_most_200() {
         const few = list(make()).parent;
         compare(few.height, 3 * 28 + 8);
-        compare(list(make({ selectedItems: many })).parent.height, 200);
+        verify(list(make({ selectedItems: many })).parent.height <= 200);
+    }
+
+    function test_a_list_that_goes_on_is_cut_through_a_row_data() {
+        return [
+            { tag: "where there is room", tallest: 618, warned: true, rows: 6.5 },
+            { tag: "where it is a little low", tallest: 430, warned: false, rows: 5.5 },
+            { tag: "where it is low", tallest: 345, warned: false, rows: 2.5 },
+            { tag: "where it is low and all moves together", tallest: 408, warned: true, rows: 3.5 },
+            { tag: "where it is very low", tallest: 368, warned: true, rows: 1.5 },
+            { tag: "where there is none", tallest: 300, warned: true, rows: 1.5 }
+        ];
+    }
+
+    function test_a_list_that_goes_on_is_cut_through_a_row(data) {
+        const view = make({ selectedItems: many, hasBrowserItems: data.warned, tallest: data.tallest });
+        compare(list(view).parent.height, 4 + data.rows * 28);
+        verify(view.height <= data.tallest);
+    }
+
+    function test_all_moves_together_only_where_two_rows_and_a_half_find_no_room_otherwise() {
+        const roomy = make({ selectedItems: many, hasBrowserItems: true });
+        const lowest = roomy.height - list(roomy).height + 4 + 2.5 * 28;
+        for (const isTight of [false, true]) {
+            const view = make({ selectedItems: many, hasBrowserItems: true, tallest: isTight ? lowest - 1 : lowest });
+            compare(find.symbol(view, "exclamationmark.triangle.fill").mapToItem(view, 0, 0).y, isTight ? 16 : 24);
+            compare(list(view).mapToItem(find.button(view, "Cancel"), 0, list(view).height).y, isTight ? -8 : -20);
+            verify(list(view).height >= 74);
+        }
+    }
+
+    function test_where_even_a_short_list_finds_no_room_all_but_the_buttons_scrolls() {
+        const view = make({ selectedItems: many, hasBrowserItems: true, tallest: 300 });
+        compare(view.height, 300);
+        const top = item => item.mapToItem(view, 0, 0).y;
+        const cancel = find.button(view, "Cancel");
+        compare(top(cancel) + cancel.height, 300 - 16);
+        compare(top(find.symbol(view, "exclamationmark.triangle.fill")), 16);
+        verify(top(list(view)) + list(view).height > top(cancel));
+        list(view).forceActiveFocus(Qt.TabFocusReason);
+        fuzzyCompare(top(list(view)) + list(view).height, top(cancel) - 8, 0.01);
+        cancel.forceActiveFocus(Qt.TabFocusReason);
+        compare(top(find.symbol(view, "exclamationmark.triangle.fill")), 16);
+    }
+
+    function test_a_short_list_that_has_to_be_scrolled_to_is_a_stop_of_the_keyboard() {
+        three.remove(1, 2);
+        const view = make({ hasBrowserItems: true, tallest: 300 });
+        compare(list(view).height, 28 + 8);
+        compare(list(view).activeFocusOnTab, true);
+        compare(list(make({ hasBrowserItems: true })).activeFocusOnTab, false);
     }
 
     function test_rows_begin_4_inside_the_panel_and_scroll_to_its_edge() {
@@ -217,13 +274,26 @@ TestCase {
         compare(rows.contentY, 1000 * 28 + 4 - rows.height);
     }
 
+    function test_pages_scroll_a_long_list_too() {
+        const rows = list(make({ selectedItems: many }));
+        rows.forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_PageDown);
+        compare(rows.contentY, rows.height - 4);
+        keyClick(Qt.Key_PageUp);
+        compare(rows.contentY, -4);
+        keyClick(Qt.Key_End);
+        compare(rows.contentY, 1000 * 28 + 4 - rows.height);
+        keyClick(Qt.Key_Home);
+        compare(rows.contentY, -4);
+    }
+
     function test_buttons_are_equally_wide() {
         const view = make();
         compare(find.button(view, "Cancel").width, find.button(view, "Confirm & Delete").width);
     }
 
     function test_fits_into_the_smallest_window() {
-        verify(make({ hasBrowserItems: true, selectedItems: many }).height <= 650);
+        verify(make({ hasBrowserItems: true, selectedItems: many }).height <= 650 - 32);
     }
 
     function test_long_names_lose_their_middle_before_the_size() {
