@@ -19,7 +19,7 @@ SheetPage {
     highest: 120
     pitch: 18
     model: view.log
-    onVisibleChanged: if (view.visible && view.firstFailure >= 0)
+    onVisibleChanged: if (view.visible && view.firstFailure > 0)
         view.showRow(view.firstFailure)
 
     delegate: LogLine {

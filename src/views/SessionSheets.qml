@@ -60,7 +60,7 @@ Item {
 
         shown: sheets.content.showDeletionComplete
         name: "Cleanup Complete!"
-        description: [`You freed ${sheets.content.freedSpaceText}`, sheets.content.deletionLog.failure].join("\n").trim()
+        description: `You freed ${sheets.content.freedSpaceText}\n${sheets.content.deletionLog.failure}`.trim()
         onEscaped: sheets.content.dismissCompletion()
 
         DeletionCompleteView {

@@ -33,10 +33,11 @@ Rectangle {
             [Qt.Key_End]: rows.contentHeight
         })
 
-    /// Scrolls so that this row is the first in view, as far as there are rows after it.
+    /// Scrolls so that this row is the first in view, as far as there are rows after it. (Not to the
+    /// pixel: its letters would touch the panel's edge.)
     function showRow(row: int): void {
         rows.positionViewAtIndex(row, ListView.Beginning);
-        rows.scrollBy(rows.itemAtIndex(row).y - rows.topMargin - rows.contentY);
+        rows.scrollBy(rows.itemAtIndex(row).y - Theme.space2 - rows.contentY);
     }
 
     implicitHeight: panel.needed <= panel.available ? panel.needed : Math.floor(rows.topMargin + (panel.wholeRows + 0.5) * panel.pitch)

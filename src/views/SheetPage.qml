@@ -29,7 +29,7 @@ FocusScope {
         list.showRow(row);
     }
 
-    implicitHeight: Math.min(page.tallest, scroll.contentHeight + page.spacing + foot.implicitHeight + page.margin)
+    implicitHeight: Math.min(page.tallest, Math.ceil(scroll.contentHeight + page.spacing + foot.implicitHeight + page.margin))
 
     Flickable {
         id: scroll
