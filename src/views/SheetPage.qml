@@ -19,7 +19,7 @@ FocusScope {
     property alias model: list.model
     property alias delegate: list.delegate
     property alias buttons: foot.data
-    /// How high the heading is with the space below each of its parts that it should have.
+    /// The heights of the heading's parts, each with the 20 below it that it should have.
     readonly property real said: Array.from(head.children).reduce((sum, part) => part.visible ? sum + part.implicitHeight + 20 : sum, 0)
     readonly property bool isTight: page.tallest < 24 + page.said + list.least + 20 + foot.implicitHeight + 24
     readonly property int margin: page.isTight ? 16 : 24
