@@ -122,6 +122,15 @@ TestCase {
         compare(list(view).hintAt(2, list(view).height - 1), "");
     }
 
+    function test_the_pointer_on_an_item_shows_its_path() {
+        const rows = list(make());
+        const row = find.control(rows, Accessible.ListItem, "Keychains");
+        mouseMove(row, 100, 10);
+        tryVerify(() => Array.from(rows.data).some(child => child.text === "/home/ada/Keychains" && child.opened), 3000);
+        mouseMove(test, 1, 1);
+        tryVerify(() => !Array.from(rows.data).some(child => child.opened === true));
+    }
+
     function test_sizes_line_up_digit_by_digit() {
         verify(find.label(make(), "888 MB") instanceof FigureLabel);
     }

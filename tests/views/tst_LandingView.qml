@@ -120,6 +120,18 @@ TestCase {
         verify(Qt.colorEqual(note.color, Theme.tertiary));
     }
 
+    function test_nothing_stands_on_anything_else_in_a_small_window() {
+        const view = make();
+        view.anchors.fill = null;
+        view.width = 640;
+        view.height = 400;
+        waitForRendering(view, 100);
+        const top = item => item.mapToItem(view, 0, 0).y;
+        const button = scanButton(view);
+        verify(top(emblemOf(view)) >= 0);
+        verify(top(button) + button.height <= top(finder.label(view, "Your Mac hasn't been scanned yet")));
+    }
+
     function test_button_adds_its_own_padding_to_the_pills() {
         const button = scanButton(make());
         compare(button.variant, "primary");
