@@ -25,7 +25,7 @@ QtObject {
     }
 
     function symbol(root: Item, name: string): Item {
-        return seen(root).find(item => item.name === name && item.source !== undefined) ?? null;
+        return seen(root).find(item => item.name === name && item.size !== undefined) ?? null;
     }
 
     /// The control with this role and, for the screen reader, this name.

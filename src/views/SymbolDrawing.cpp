@@ -1,9 +1,10 @@
-#include "views/SymbolProvider.h"
+#include "views/SymbolDrawing.h"
 
 #include <QColor>
 #include <QFile>
 #include <QHash>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 
 namespace drossbin {
@@ -33,7 +34,8 @@ const Symbols& symbols() {
         {"sparkle.magnifyingglass", {{"search-light"}, {"stars", {0.19, 0.17, 0.44, 0.44}}}},
         {"sparkles", {{"stars"}}},
         {"square.stack.3d.up", {{"layers"}}},
-        {"trash", {{"trash3"}}},
+        // The set's own bins have a line in their middle, between two pixels.
+        {"trash", {{"bin"}}},
         {"wand.and.stars", {{"magic"}}},
         {"xmark.circle.fill", {{"x-circle-fill"}}},
         {"xmark.octagon.fill", {{"x-octagon-fill"}}},
@@ -41,11 +43,16 @@ const Symbols& symbols() {
     return table;
 }
 
-QByteArray drawingOf(const Layer& layer, bool isHeavy) {
-    QFile file(QStringLiteral(":/symbols/%1.svg").arg(layer.icon));
+/// The icons are outlines of strokes one unit wide, of 16: a rim makes those wider. One that has a
+/// heavy twin needs none.
+QByteArray drawingOf(const QString& icon, bool isHeavy) {
+    QFile twin(QStringLiteral(":/symbols/%1-heavy.svg").arg(icon));
+    if (isHeavy && twin.open(QFile::ReadOnly)) {
+        return twin.readAll();
+    }
+    QFile file(QStringLiteral(":/symbols/%1.svg").arg(icon));
     QByteArray drawing = file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
     if (isHeavy) {
-        // The icons are outlines of strokes one unit wide, of 16: a rim makes those wider.
         drawing.replace("fill=",
                         R"(stroke="#000" stroke-width="0.9" stroke-linejoin="round" fill=)");
         drawing.replace("0 0 16 16", "-0.45 -0.45 16.9 16.9");
@@ -54,29 +61,47 @@ QByteArray drawingOf(const Layer& layer, bool isHeavy) {
 }
 
 void draw(QPainter& painter, const Layer& layer, bool isHeavy, const QSize& size) {
-    QSvgRenderer renderer(drawingOf(layer, isHeavy));
+    QSvgRenderer renderer(drawingOf(layer.icon, isHeavy));
     const QRectF place(layer.place.x() * size.width(), layer.place.y() * size.height(),
                        layer.place.width() * size.width(), layer.place.height() * size.height());
     renderer.render(&painter, place);
 }
 
+QImage drawn(const QList<Layer>& layers, const QColor& color, bool isHeavy, int size) {
+    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    for (const Layer& layer : layers) {
+        draw(painter, layer, isHeavy, image.size());
+    }
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), color);
+    return image;
+}
+
 } // namespace
 
-QImage SymbolProvider::requestImage(const QString& id, QSize* size, const QSize& requestedSize) {
-    const auto layers = symbols().constFind(id.section('/', 0, 0));
+int symbolPixels(int room) {
+    constexpr int grid = 16;
+    constexpr int large = 48;
+    const int onGrid = room - room % grid;
+    return room < large && onGrid * 8 >= room * 7 ? onGrid : room;
+}
+
+QImage drawSymbol(const QString& name, const QColor& color, bool isHeavy, int pixels) {
+    const auto layers = symbols().constFind(name);
     if (layers == symbols().constEnd()) {
         return {};
     }
-    QImage image(requestedSize, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    for (const Layer& layer : *layers) {
-        draw(painter, layer, id.endsWith("/heavy"), requestedSize);
+    const QString key = QStringLiteral("symbol/%1/%2/%3/%4")
+                            .arg(name, color.name(QColor::HexArgb), isHeavy ? "heavy" : "regular")
+                            .arg(pixels);
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = QPixmap::fromImage(drawn(*layers, color, isHeavy, pixels));
+        QPixmapCache::insert(key, pixmap);
     }
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(image.rect(), QColor('#' + id.section('/', 1, 1)));
-    *size = image.size();
-    return image;
+    return pixmap.toImage();
 }
 
 } // namespace drossbin

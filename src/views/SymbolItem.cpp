@@ -1,0 +1,51 @@
+#include "views/SymbolItem.h"
+
+#include "views/PixelAlignedImage.h"
+#include "views/SymbolDrawing.h"
+
+#include <QQmlInfo>
+#include <QQuickWindow>
+
+#include <memory>
+
+namespace drossbin {
+
+SymbolItem::SymbolItem(QQuickItem* parent)
+    : QQuickItem(parent) {
+    setFlag(ItemHasContents);
+    connect(this, &SymbolItem::changed, this, [this] {
+        setImplicitSize(m_size, m_size);
+        polish();
+    });
+}
+
+void SymbolItem::itemChange(ItemChange change, const ItemChangeData& data) {
+    if (change == ItemDevicePixelRatioHasChanged) {
+        polish();
+    }
+    QQuickItem::itemChange(change, data);
+}
+
+void SymbolItem::updatePolish() {
+    const int room = qRound(m_size * window()->effectiveDevicePixelRatio());
+    m_image =
+        m_name.isEmpty() ? QImage() : drawSymbol(m_name, m_color, m_isHeavy, symbolPixels(room));
+    if (m_image.isNull() && !m_name.isEmpty()) {
+        qmlWarning(this) << "There is no symbol named " << m_name;
+    }
+    update();
+}
+
+QSGNode* SymbolItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/) {
+    std::unique_ptr<PixelAlignedImage> node(static_cast<PixelAlignedImage*>(old));
+    if (m_image.isNull()) {
+        return nullptr;
+    }
+    if (!node) {
+        node = std::make_unique<PixelAlignedImage>(*window());
+    }
+    node->show(m_image, boundingRect().center(), *window());
+    return node.release();
+}
+
+} // namespace drossbin
