@@ -39,6 +39,7 @@ FocusScope {
 
         CategoryHeader {
             Layout.margins: Theme.space16
+            Layout.topMargin: topRoom
             name: pane.name
             icon: pane.icon
             subtitle: pane.subtitle

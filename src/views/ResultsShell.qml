@@ -30,7 +30,7 @@ FocusScope {
 
             anchors.left: parent.left
             anchors.right: parent.right
-            height: 48
+            height: Theme.topLine
 
             ToolbarButton {
                 anchors.right: parent.right

@@ -81,6 +81,8 @@ QtObject {
     readonly property int space20: 20
     readonly property int space24: 24
     readonly property int space32: 32
+    /// How high the top of both columns is: what stands in it has its middle in one line.
+    readonly property int topLine: 64
 
     // Durations, in milliseconds
     readonly property int pressed: theme.lasting(150)

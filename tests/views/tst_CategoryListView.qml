@@ -136,6 +136,12 @@ TestCase {
         compare(topOf(subtitle) + subtitle.baselineOffset, topOf(title) + title.baselineOffset);
     }
 
+    function test_first_line_is_in_the_middle_of_the_top_line() {
+        const middle = item => topOf(item) + item.height / 2;
+        verify(Math.abs(middle(find.label(view, "Package Caches")) - Theme.topLine / 2) <= 0.5);
+        verify(Math.abs(middle(find.symbol(view, "shippingbox")) - Theme.topLine / 2) <= 1, "on whole pixels");
+    }
+
     function test_controls_row_counts_in_blue_also_when_nothing_is_selected() {
         view.categorySummary = "0 selected · Zero KB";
         const summary = find.label(view, "0 selected · Zero KB");
