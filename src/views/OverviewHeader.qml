@@ -1,7 +1,7 @@
 import QtQuick
 
 /// The sum of what was found, and the two buttons that act on all of it. It is always high enough
-/// for both, so that what is below stays where it is when the second appears.
+/// for both, so that the first stays under the pointer when the second appears.
 Item {
     id: header
 
@@ -12,7 +12,12 @@ Item {
     signal smartSelect
     signal deletionRequested
 
-    implicitHeight: Math.max(titles.height, 2 * select.implicitHeight + buttons.spacing) + 2 * Theme.space16
+    /// The room above an item that is in the middle of the top line.
+    function topRoom(item: Item): real {
+        return Math.round((Theme.topLine - item.height) / 2);
+    }
+
+    implicitHeight: Math.max(titles.y + titles.height, buttons.y + 2 * select.implicitHeight + buttons.spacing) + Theme.space16
 
     Column {
         id: titles
@@ -21,10 +26,13 @@ Item {
         anchors.leftMargin: Theme.space16
         anchors.right: buttons.left
         anchors.rightMargin: Theme.space16
-        anchors.verticalCenter: parent.verticalCenter
+        anchors.top: parent.top
+        anchors.topMargin: header.topRoom(title)
         spacing: Theme.space4
 
         PlainLabel {
+            id: title
+
             width: parent.width
             text: "Drossbin"
             font.pixelSize: Theme.largeTitle
@@ -46,7 +54,8 @@ Item {
 
         anchors.right: parent.right
         anchors.rightMargin: Theme.space16
-        anchors.verticalCenter: parent.verticalCenter
+        anchors.top: parent.top
+        anchors.topMargin: header.topRoom(select)
         width: Math.max(select.implicitWidth, remove.visible ? remove.implicitWidth : 0)
         spacing: Theme.space8
 
