@@ -22,6 +22,8 @@ PressButton {
     background: Rectangle {
         radius: 12
         color: card.down ? Theme.materialPressed : card.hovered ? Theme.materialHovered : Theme.material
+        border.width: 1
+        border.color: Theme.divider
 
         FocusRing {
             visible: card.visualFocus

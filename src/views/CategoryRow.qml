@@ -34,7 +34,7 @@ T.ItemDelegate {
 
     background: Rectangle {
         radius: Theme.space8
-        color: row.isCurrent ? Theme.quaternary : mouse.pressed ? Theme.materialPressed : mouse.containsMouse ? Theme.materialHovered : "transparent"
+        color: row.isCurrent ? Theme.picked : mouse.pressed ? Theme.materialPressed : mouse.containsMouse ? Theme.materialHovered : "transparent"
 
         FocusRing {
             visible: row.visualFocus

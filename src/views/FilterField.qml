@@ -28,6 +28,8 @@ FocusScope {
         anchors.fill: parent
         radius: 8
         color: Theme.tinted(Theme.quaternary, 0.5)
+        border.width: 1
+        border.color: Theme.divider
 
         FocusRing {
             gap: 0

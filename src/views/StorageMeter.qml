@@ -45,6 +45,8 @@ Column {
         height: 8
         radius: 4
         color: Theme.quaternary
+        border.width: 1
+        border.color: Theme.divider
 
         MeterBar {
             width: meter.barWidth(meter.foundShare)

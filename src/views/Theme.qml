@@ -15,10 +15,11 @@ QtObject {
 
     // Surfaces
     readonly property color window: theme.dark ? "#1c1c1f" : "#ffffff"
-    readonly property color sidebar: theme.dark ? "#262629" : "#f3f3f6"
+    readonly property color sidebar: theme.dark ? "#151517" : "#f5f5f8"
+    readonly property color picked: theme.dark ? "#39393c" : "#dcdce1"
     readonly property color sheet: theme.dark ? "#2a2a2d" : "#ffffff"
-    readonly property color material: theme.dark ? Qt.rgba(1, 1, 1, 0.06) : Qt.rgba(0, 0, 0, 0.035)
-    readonly property color materialHovered: theme.dark ? Qt.rgba(1, 1, 1, 0.09) : Qt.rgba(0, 0, 0, 0.055)
+    readonly property color material: theme.dark ? Qt.rgba(1, 1, 1, 0.06) : Qt.rgba(0, 0, 0, 0.04)
+    readonly property color materialHovered: theme.dark ? Qt.rgba(1, 1, 1, 0.09) : Qt.rgba(0, 0, 0, 0.06)
     readonly property color materialPressed: theme.dark ? Qt.rgba(1, 1, 1, 0.13) : Qt.rgba(0, 0, 0, 0.085)
     /// Under white text, so it is dark in both appearances.
     readonly property color darkMaterial: theme.dark ? Qt.rgba(1, 1, 1, 0.08) : Qt.rgba(0.11, 0.11, 0.13, 0.86)
@@ -31,10 +32,11 @@ QtObject {
     readonly property color label: theme.dark ? "#f2f2f5" : "#1d1d1f"
     readonly property color secondary: theme.dark ? "#b8b8be" : "#58585d"
     readonly property color tertiary: theme.dark ? "#a0a0a7" : "#66666b"
-    readonly property color quaternary: theme.dark ? "#47474c" : "#dcdce1"
+    readonly property color quaternary: theme.dark ? Qt.rgba(1, 1, 1, 0.09) : "#e5e5ea"
     readonly property color bright: "#ffffff"
     readonly property color brightSecondary: "#d2d2d8"
-    readonly property color blue: theme.dark ? "#5aa7ff" : "#005edf"
+    /// The accent: the hue of the primary fill, and as near to its shade as texts can be.
+    readonly property color blue: theme.dark ? "#2a82ff" : "#0066f5"
     readonly property color green: theme.dark ? "#3ddc62" : "#12682c"
     readonly property color orange: theme.dark ? "#ffa526" : "#954900"
     readonly property color red: theme.dark ? "#ff8077" : "#b8221a"
@@ -107,6 +109,6 @@ QtObject {
     }
 
     function tinted(color: color, opacity: real): color {
-        return Qt.rgba(color.r, color.g, color.b, opacity);
+        return Qt.rgba(color.r, color.g, color.b, color.a * opacity);
     }
 }

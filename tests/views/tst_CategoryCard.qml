@@ -81,7 +81,14 @@ TestCase {
         const rows = Array.from(card.contentItem.children);
         for (let index = 1; index < rows.length; ++index)
             compare(rows[index].y - rows[index - 1].y - rows[index - 1].height, 8);
+        const last = rows[rows.length - 1];
         compare(rows[0].mapToItem(card, 0, 0), Qt.point(16, 16));
+        compare(last.mapToItem(card, last.width, last.height), Qt.point(card.width - 16, card.height - 16));
+    }
+
+    function test_hairline_stands_it_off_the_window() {
+        compare(card.background.border.width, 1);
+        verify(Qt.colorEqual(card.background.border.color, Theme.divider));
     }
 
     function test_corner_radius_is_12() {

@@ -120,6 +120,32 @@ TestCase {
         compare(selected(meter).width, 4);
     }
 
+    function test_narrowest_bars_keep_to_the_round_end_of_the_track_data() {
+        return [{ tag: "left to right", mirrored: false, edge: 100 }, { tag: "right to left", mirrored: true, edge: 299 }];
+    }
+
+    function test_narrowest_bars_keep_to_the_round_end_of_the_track(data) {
+        const meter = make({ x: 100, isReclaiming: true, foundShare: 0, selectedShare: 0 });
+        meter.LayoutMirroring.enabled = data.mirrored;
+        meter.LayoutMirroring.childrenInherit = true;
+        const narrow = startOfTheTrack(meter, data.edge);
+        meter.foundShare = meter.selectedShare = 1;
+        const full = startOfTheTrack(meter, data.edge);
+        for (let column = 0; column < 4; ++column)
+            compare(narrow[column], full[column]);
+        verify(Qt.colorEqual(full[4][4], Theme.blue));
+        verify(!Qt.colorEqual(narrow[4][4], Theme.blue), "4 wide and no more");
+    }
+
+    /// The first columns of pixels, from its edge inwards.
+    function startOfTheTrack(meter: StorageMeter, edge: int): var {
+        waitForRendering(meter, 200);
+        const picture = grabImage(test);
+        const top = track(meter).mapToItem(test, 0, 0).y;
+        const column = x => [0, 1, 2, 3, 4, 5, 6, 7].map(y => picture.pixel(x, top + y));
+        return [0, 1, 2, 3, 4].map(step => column(edge + (edge < 200 ? step : -step)));
+    }
+
     function test_more_than_the_disk_is_not_cut_off() {
         compare(found(make({ foundShare: 1.5 })).width, 300);
     }

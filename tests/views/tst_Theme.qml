@@ -21,7 +21,7 @@ TestCase {
 
     /// What is written on what, the surface below first.
     function pairs(): var {
-        const picked = [Theme.sidebar, Theme.quaternary];
+        const picked = [Theme.sidebar, Theme.picked];
         const selected = [Theme.window, Theme.tinted(Theme.blue, 0.06)];
         const panel = [Theme.sheet, Theme.material];
         const alert = [Theme.sheet, Theme.tinted(Theme.orangeTint, 0.08)];
@@ -76,8 +76,66 @@ TestCase {
         compare(words.map(Theme.riskTint), words.map(Theme.shade));
     }
 
-    function test_large_symbols_stand_out_from_what_they_are_on_data() {
+    function test_there_is_one_accent_data() {
+        return appearances();
+    }
+
+    function test_there_is_one_accent(data) {
+        Theme.dark = data.dark;
+        compare(Math.round(Theme.blue.hslHue * 360), Math.round(Theme.primaryFill.hslHue * 360));
+        compare(Theme.blue.hslSaturation, Theme.primaryFill.hslSaturation);
+        verify(contrast.of(Theme.blue, [Theme.primaryFill]) < 1.3);
+    }
+
+    function test_blue_symbols_stand_out_from_what_they_are_on_data() {
+        return appearances();
+    }
+
+    function test_blue_symbols_stand_out_from_what_they_are_on(data) {
+        Theme.dark = data.dark;
+        for (const surface of [Theme.material, Theme.materialHovered, Theme.materialPressed])
+            verify(contrast.of(Theme.blue, [Theme.window, surface]) >= 3, surface);
+        verify(contrast.of(Theme.blue, [Theme.sidebar, Theme.picked]) >= 3);
+        verify(contrast.of(Theme.blue, [Theme.window, Theme.tinted(Theme.blue, 0.08)]) >= 3);
+    }
+
+    function test_parts_of_the_meter_are_told_apart_data() {
+        return appearances();
+    }
+
+    function test_parts_of_the_meter_are_told_apart(data) {
+        Theme.dark = data.dark;
+        const track = contrast.over(Theme.quaternary, Theme.sidebar);
+        const found = contrast.over(Theme.tinted(Theme.blue, 0.2), track);
+        verify(contrast.of(Theme.blue, [found]) >= 3, contrast.of(Theme.blue, [found]));
+        verify(contrast.of(found, [track]) >= 1.25, contrast.of(found, [track]));
+        verify(contrast.of(track, [Theme.sidebar]) >= 1.14, contrast.of(track, [Theme.sidebar]));
+        verify(contrast.of(Theme.divider, [Theme.sidebar]) >= 1.2, "its outline");
+    }
+
+    function test_cards_stand_off_the_window_data() {
+        return appearances();
+    }
+
+    function test_cards_stand_off_the_window(data) {
+        Theme.dark = data.dark;
+        const surface = contrast.over(Theme.material, Theme.window);
+        verify(contrast.of(surface, [Theme.window]) >= 1.09, contrast.of(surface, [Theme.window]));
+        const edge = contrast.over(Theme.divider, surface);
+        verify(contrast.of(edge, [Theme.window]) >= 1.3, contrast.of(edge, [Theme.window]));
+    }
+
+    function test_tinting_what_can_be_seen_through_keeps_its_share() {
+        compare(Theme.tinted(Qt.rgba(1, 0, 0, 0.5), 0.5), Qt.rgba(1, 0, 0, 0.25));
+        compare(Theme.tinted(Qt.rgba(0, 0, 1, 1), 0.25), Qt.rgba(0, 0, 1, 0.25));
+    }
+
+    function appearances(): var {
         return [{ tag: "light", dark: false }, { tag: "dark", dark: true }];
+    }
+
+    function test_large_symbols_stand_out_from_what_they_are_on_data() {
+        return appearances();
     }
 
     function test_large_symbols_stand_out_from_what_they_are_on(data) {
