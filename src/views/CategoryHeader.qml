@@ -24,6 +24,7 @@ ColumnLayout {
             name: header.icon
             color: Theme.blue
             size: Theme.title2
+            isHeavy: true
         }
 
         PlainLabel {
