@@ -28,6 +28,9 @@ QtObject {
     readonly property color tooltip: "#3a3a3e"
     readonly property color dim: Qt.rgba(0, 0, 0, theme.dark ? 0.5 : 0.25)
 
+    /// One of the shapes that a shadow is made of.
+    readonly property color shadow: Qt.rgba(0, 0, 0, theme.dark ? 0.045 : 0.016)
+
     // Texts: 4.5:1 and more on every surface that they are on
     readonly property color label: theme.dark ? "#f2f2f5" : "#1d1d1f"
     readonly property color secondary: theme.dark ? "#b8b8be" : "#58585d"
@@ -85,6 +88,11 @@ QtObject {
     readonly property int space32: 32
     /// How high the top of both columns is: what stands in it has its middle in one line.
     readonly property int topLine: 64
+
+    // Shadows: how far they reach, in what steps, and how far below they lie
+    readonly property int shadowSpread: 20
+    readonly property int shadowStep: 2
+    readonly property int shadowDrop: 6
 
     // Durations, in milliseconds
     readonly property int pressed: theme.lasting(150)
