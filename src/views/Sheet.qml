@@ -64,6 +64,10 @@ T.Popup {
         radius: 12
         border.width: 1
         border.color: Theme.outline
+
+        SoftShadow {
+            corner: parent.radius
+        }
     }
 
     enter: Transition {

@@ -100,6 +100,17 @@ Item {
                 compare(sheet.y, Math.round((window.height - sheet.height) / 2));
             }
 
+            function test_lies_on_a_soft_shadow() {
+                open();
+                waitForRendering(page);
+                const picture = grabImage(page);
+                const edge = sheet.y + sheet.height;
+                const darkness = distance => 1 - picture.pixel(450, edge + distance).r;
+                verify(darkness(2) > 0.05, darkness(2));
+                verify(darkness(12) > 0 && darkness(12) < darkness(2), darkness(12));
+                compare(darkness(Theme.shadowSpread + Theme.shadowDrop + 2), 0);
+            }
+
             function test_comes_down_and_leaves_again() {
                 Theme.animated = true;
                 let highest = 0;
