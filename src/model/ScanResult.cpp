@@ -4,18 +4,20 @@
 #include "platform/CheckedSum.h"
 
 #include <algorithm>
-#include <iterator>
-#include <ranges>
 
 namespace drossbin {
 
 namespace {
 
-/// The category's items that `filter` lets through, without a copy of any.
-auto viewOf(const std::vector<DiskItem>& items, DiskCategory category, const ItemFilter& filter) {
-    return std::views::filter(items, [category, &filter](const DiskItem& item) {
-        return item.category == category && filter.passes(item);
-    });
+/// Calls `use` with each of the category's items that the search text leaves, without a copy.
+template <class Use>
+void forEachOf(const ScanResult& result, DiskCategory category, Use use) {
+    const ItemFilter filter(result.searchText.get());
+    for (const DiskItem& item : result.items.get()) {
+        if (item.category == category && filter.passes(item)) {
+            use(item);
+        }
+    }
 }
 
 } // namespace
@@ -41,23 +43,21 @@ std::size_t ScanResult::selectedCount() const {
 }
 
 std::vector<DiskItem> ScanResult::itemsFor(DiskCategory category) const {
-    const ItemFilter filter(searchText.get());
     std::vector<DiskItem> found;
-    std::ranges::copy(viewOf(items, category, filter), std::back_inserter(found));
+    forEachOf(*this, category, [&found](const DiskItem& item) { found.push_back(item); });
     return found;
 }
 
 bool ScanResult::hasItemsFor(DiskCategory category) const {
-    const ItemFilter filter(searchText.get());
-    return !viewOf(items, category, filter).empty();
+    bool hasSome = false;
+    forEachOf(*this, category, [&hasSome](const DiskItem&) { hasSome = true; });
+    return hasSome;
 }
 
 std::int64_t ScanResult::categorySize(DiskCategory category) const {
-    const ItemFilter filter(searchText.get());
     std::int64_t total = 0;
-    for (const DiskItem& item : viewOf(items, category, filter)) {
-        total = checkedSum(total, item.size);
-    }
+    forEachOf(*this, category,
+              [&total](const DiskItem& item) { total = checkedSum(total, item.size); });
     return total;
 }
 
