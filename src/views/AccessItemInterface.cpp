@@ -39,8 +39,14 @@ QRect AccessItemInterface::rect() const {
 }
 
 QString AccessItemInterface::text(QAccessible::Text kind) const {
-    return kind == QAccessible::Name ? said(item(), QStringLiteral("Accessible.name")).toString()
-                                     : QString();
+    switch (kind) {
+    case QAccessible::Name:
+        return said(item(), QStringLiteral("Accessible.name")).toString();
+    case QAccessible::Description:
+        return said(item(), QStringLiteral("Accessible.description")).toString();
+    default:
+        return {};
+    }
 }
 
 QAccessible::Role AccessItemInterface::role() const {

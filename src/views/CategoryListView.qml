@@ -63,12 +63,14 @@ FocusScope {
 
                 PillButton {
                     label: "Select All Safe"
+                    hint: "Selects every item of this category that is not Protected, also those marked Review First or hidden by the filter"
                     variant: "secondary"
                     onClicked: pane.selectAllPressed()
                 }
 
                 PillButton {
                     label: "Deselect All"
+                    hint: "Deselects every item of this category, also those hidden by the filter"
                     variant: "secondary"
                     onClicked: pane.deselectAllPressed()
                 }

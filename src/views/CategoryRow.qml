@@ -9,6 +9,8 @@ T.ItemDelegate {
     required property string symbol
     required property string caption
     required property bool isCurrent
+    /// What else there is to know about it, if anything.
+    property string hint: ""
 
     signal picked
     /// Asked for with Control (Command on macOS) on the row that is picked.
@@ -27,7 +29,7 @@ T.ItemDelegate {
     Keys.onEnterPressed: row.picked()
     Accessible.role: Accessible.ListItem
     Accessible.name: row.name
-    Accessible.description: row.caption
+    Accessible.description: row.hint === "" ? row.caption : `${row.caption}. ${row.hint}`
     Accessible.selectable: true
     Accessible.selected: row.isCurrent
     Accessible.onPressAction: row.picked()
@@ -90,5 +92,10 @@ T.ItemDelegate {
         anchors.fill: row.background
         hoverEnabled: true
         onClicked: event => row.isCurrent && event.modifiers & Qt.ControlModifier ? row.unpicked() : row.picked()
+    }
+
+    Hint {
+        text: row.hint
+        isAsked: mouse.containsMouse || row.visualFocus
     }
 }

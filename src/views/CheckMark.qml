@@ -8,6 +8,8 @@ T.CheckBox {
 
     required property string name
     required property bool isSelected
+    /// Why it cannot be checked, if so.
+    property string hint: ""
 
     implicitWidth: Theme.space20
     implicitHeight: Theme.space24
@@ -45,5 +47,6 @@ T.CheckBox {
         Accessible.role: Accessible.CheckBox
         Accessible.name: box.name
         Accessible.checked: box.isSelected
+        Accessible.description: box.hint
     }
 }

@@ -32,6 +32,7 @@ SymbolButton {
 
     symbol: "info.circle"
     label: "Information"
+    hint: "About this item"
     onClicked: if (button.enabled)
         button.open()
 

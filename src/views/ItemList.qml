@@ -112,5 +112,10 @@ RowsView {
             gap: -2
             visible: list.showsFocus
         }
+
+        Hint {
+            text: list.currentRow?.hint ?? ""
+            isAsked: list.showsFocus
+        }
     }
 }

@@ -25,6 +25,8 @@ T.ItemDelegate {
     readonly property real room: row.width - 243
     readonly property bool showsRisk: row.room >= 140 + 80
     readonly property bool showsDate: row.room >= 140 + 80 + 82
+    /// Why it cannot be selected, if so.
+    readonly property string hint: row.isProtected ? "Protected: it may hold passwords, keys or settings, so it cannot be selected" : ""
 
     signal toggled
 
@@ -53,7 +55,7 @@ T.ItemDelegate {
     Accessible.role: Accessible.ListItem
     Accessible.name: row.name
     // Qt 6.4 tells assistive programs of no disabled state.
-    Accessible.description: row.isProtected ? `Disabled, ${row.path}` : row.path
+    Accessible.description: row.isProtected ? `Disabled, ${row.path}. ${row.hint}` : row.path
     Accessible.selectable: true
     Accessible.selected: row.isSelected
 
@@ -71,6 +73,7 @@ T.ItemDelegate {
         height: parent.height
         name: row.name
         isSelected: row.isSelected
+        hint: row.hint
         activeFocusOnTab: row.isCurrent || activeFocus
         onClicked: row.press()
     }

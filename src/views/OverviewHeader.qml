@@ -69,14 +69,12 @@ Item {
             onClicked: header.smartSelect()
         }
 
-        PillButton {
+        DeleteButton {
             id: remove
 
             anchors.right: parent.right
             visible: header.hasSelection
             label: header.deleteLabel
-            symbol: "trash"
-            variant: "danger"
             onClicked: header.deletionRequested()
         }
     }

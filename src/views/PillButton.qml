@@ -9,7 +9,6 @@ PressButton {
     /// "primary", "secondary" or "danger".
     property string variant: "primary"
     property string symbol: ""
-    property string hint: ""
     readonly property bool isSecondary: button.variant === "secondary"
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
@@ -17,7 +16,6 @@ PressButton {
     horizontalPadding: 24
     verticalPadding: 10
     scale: button.down ? 0.95 : 1
-    Accessible.description: button.hint
 
     Behavior on scale {
         EaseOutMotion {
@@ -54,10 +52,5 @@ PressButton {
     font {
         pixelSize: 14
         weight: Font.DemiBold
-    }
-
-    Tip {
-        text: button.hint
-        visible: button.hint !== "" && button.hovered && !button.down
     }
 }

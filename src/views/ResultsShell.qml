@@ -37,6 +37,7 @@ FocusScope {
                 anchors.rightMargin: Theme.space8
                 anchors.verticalCenter: parent.verticalCenter
                 label: "Scan"
+                hint: "Scans again; the selection is lost"
                 symbol: "arrow.clockwise"
                 enabled: shell.canScan
                 onClicked: shell.scan()

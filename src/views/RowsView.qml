@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 
 /// A scrolling list that builds only the rows in view and uses them again, and that shows the
-/// whole of a text that is cut short when the pointer rests on it, also in a disabled row.
+/// whole of a text that is cut short when the pointer rests on it, also in a disabled row; or else
+/// what that row has to say.
 ListView {
     id: rows
 
@@ -12,17 +13,12 @@ ListView {
         return item as PlainLabel ?? hit.map(child => rows.labelAt(child, item.mapToItem(child, place))).find(label => label) ?? null;
     }
 
-    /// The whole of the text at a place of the view if it is cut short there; nothing otherwise.
-    function cutTextAt(x: real, y: real): string {
+    /// What the tip says at a place of the view.
+    function tipAt(x: real, y: real): string {
         const row = rows.itemAt(x + rows.contentX, y + rows.contentY);
         const label = row === null ? null : rows.labelAt(row, rows.mapToItem(row, Qt.point(x, y)));
-        return label?.truncated ? label.text : "";
-    }
-
-    /// What the tip says at a place of the view.
-    function hintAt(x: real, y: real): string {
-        const row = rows.itemAt(x + rows.contentX, y + rows.contentY) as SelectedItemRow;
-        return row?.path ?? rows.cutTextAt(x, y);
+        const cut = label?.truncated ? label.text : "";
+        return (row as SelectedItemRow)?.path ?? (cut || (row as ItemRowView)?.hint) ?? "";
     }
 
     function scrollBy(distance: real): void {
@@ -46,12 +42,12 @@ ListView {
         parent: rows
     }
 
-    Tip {
-        id: tip
-
-        text: pointer.hovered && !rows.moving ? rows.hintAt(pointer.place.x, pointer.place.y) : ""
-        x: Math.min(pointer.place.x, rows.width - tip.implicitWidth - Theme.space8)
-        y: pointer.place.y + Theme.space20
-        visible: text !== ""
+    Hint {
+        parent: rows
+        text: pointer.hovered && !rows.moving ? rows.tipAt(pointer.place.x, pointer.place.y) : ""
+        isAsked: text !== ""
+        place: Qt.rect(pointer.place.x, pointer.place.y, 0, Theme.space16)
+        widest: 640
+        wrapMode: Text.WrapAnywhere
     }
 }

@@ -56,16 +56,15 @@ ColumnLayout {
                 Layout.fillWidth: !line.isWide
                 Layout.maximumWidth: Math.ceil(implicitWidth)
                 label: "Clear Selection"
+                hint: "Deselects every item of every category"
                 variant: "secondary"
                 onClicked: bar.clearPressed()
             }
 
-            PillButton {
+            DeleteButton {
                 Layout.fillWidth: !line.isWide
                 Layout.maximumWidth: Math.ceil(implicitWidth)
                 label: "Delete Selected"
-                symbol: "trash"
-                variant: "danger"
                 onClicked: bar.deletePressed()
             }
         }

@@ -18,6 +18,8 @@ FocusScope {
 
     /// What the last row was picked with: only the keyboard has a ring.
     property int reason: Qt.OtherFocusReason
+    /// How to come back to where none is picked.
+    readonly property string wayBack: sidebar.selectedCategory < 0 ? "" : "Escape shows the overview of all categories"
 
     signal picked(int category)
 
@@ -44,6 +46,16 @@ FocusScope {
             color: Theme.secondary
             font.pixelSize: Theme.caption2
             font.weight: Font.DemiBold
+            Accessible.description: sidebar.wayBack
+
+            HoverHandler {
+                id: pointer
+            }
+
+            Hint {
+                text: sidebar.wayBack
+                isAsked: pointer.hovered
+            }
         }
 
         ListView {
@@ -76,6 +88,7 @@ FocusScope {
                 symbol: row.model.icon
 
                 width: ListView.view.width
+                hint: row.isCurrent ? sidebar.wayBack : ""
                 onPicked: sidebar.pick(row.index, Qt.MouseFocusReason)
                 onUnpicked: sidebar.picked(-1)
             }

@@ -7,7 +7,6 @@ PressButton {
     id: button
 
     required property string symbol
-    property string hint: ""
     property int symbolSize: Theme.space16
 
     implicitWidth: Theme.space20
@@ -25,15 +24,6 @@ PressButton {
                 visible: button.visualFocus
                 corner: parent.size / 2
             }
-        }
-    }
-
-    Loader {
-        active: button.hint !== "" && button.hovered && !button.down
-        sourceComponent: Tip {
-            parent: button
-            text: button.hint
-            visible: true
         }
     }
 }

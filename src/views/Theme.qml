@@ -29,7 +29,7 @@ QtObject {
     readonly property color dim: Qt.rgba(0, 0, 0, theme.dark ? 0.5 : 0.25)
 
     /// One of the shapes that a shadow is made of.
-    readonly property color shadow: Qt.rgba(0, 0, 0, theme.dark ? 0.045 : 0.016)
+    readonly property color shadow: Qt.rgba(0, 0, 0, theme.dark ? 0.05 : 0.011)
 
     // Texts: 4.5:1 and more on every surface that they are on
     readonly property color label: theme.dark ? "#f2f2f5" : "#1d1d1f"
@@ -101,6 +101,8 @@ QtObject {
     readonly property int warned: theme.lasting(250)
     readonly property int dimmed: theme.lasting(250)
     readonly property int standard: theme.lasting(350)
+    /// How long the pointer or the keyboard rests before a tip comes; not a motion.
+    readonly property int rested: 500
     readonly property int sprung: theme.lasting(Spring.duration)
 
     function lasting(milliseconds: int): int {

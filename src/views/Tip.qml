@@ -6,19 +6,25 @@ import QtQuick.Templates as T
 T.ToolTip {
     id: tip
 
-    readonly property real widest: 640
+    /// What it is about, in the parent: it stands below, or above it where the window ends.
+    property rect place: Qt.rect(0, 0, tip.parent.width, tip.parent.height)
+    property real widest: 640
+    property int wrapMode: Text.WrapAnywhere
     readonly property int lines: (tip.parent.Window.height - 2 * Theme.space8 - tip.topPadding - tip.bottomPadding) / Theme.lineHeight(Theme.caption2)
     /// What all lines hold together; at the end of each, a character may find no place.
     readonly property real capacity: tip.lines * (tip.widest - tip.leftPadding - tip.rightPadding - metrics.maximumCharacterWidth)
+    readonly property real lower: tip.place.y + tip.place.height + Theme.space4
+    // Looked at when it appears.
+    readonly property bool isAbove: tip.visible && tip.parent.mapToItem(null, 0, tip.lower + tip.implicitHeight + tip.margins).y > tip.parent.Window.height
 
-    x: (tip.parent.width - tip.implicitWidth) / 2
-    y: tip.parent.height + Theme.space4
+    x: tip.place.x + (tip.place.width - tip.implicitWidth) / 2
+    y: tip.isAbove ? tip.place.y - tip.implicitHeight - Theme.space4 : tip.lower
     implicitWidth: Math.min(implicitContentWidth + tip.leftPadding + tip.rightPadding, tip.widest)
     implicitHeight: implicitContentHeight + tip.topPadding + tip.bottomPadding
     margins: Theme.space8
     horizontalPadding: Theme.space8
     verticalPadding: Theme.space4
-    delay: 700
+    delay: Theme.rested
     closePolicy: T.Popup.NoAutoClose
 
     FontMetrics {
@@ -31,7 +37,7 @@ T.ToolTip {
         text: metrics.elidedText(tip.text, Qt.ElideMiddle, tip.capacity)
         font: metrics.font
         color: Theme.bright
-        wrapMode: Text.WrapAnywhere
+        wrapMode: tip.wrapMode
         maximumLineCount: tip.lines
     }
 

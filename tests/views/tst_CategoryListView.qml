@@ -470,11 +470,28 @@ TestCase {
         waitForRendering(view, 100);
         const label = find.label(row(3), whole);
         const place = label.mapToItem(list(), 10, 5);
-        compare(list().cutTextAt(place.x, place.y), whole);
+        compare(list().tipAt(place.x, place.y), whole);
         const path = find.label(row(3), "/home/user/item 3");
         const below = path.mapToItem(list(), 10, 5);
-        compare(list().cutTextAt(below.x, below.y), "");
-        compare(list().cutTextAt(1, 1), "");
+        compare(list().tipAt(below.x, below.y), row(3).hint);
+        compare(list().tipAt(1, 1), "");
+    }
+
+    function test_a_protected_row_says_why_to_the_pointer_and_to_the_keyboard() {
+        const tips = () => Array.from(find.seen(list()).filter(item => item.isAsked && item.tip !== null).map(hint => hint.tip.text));
+        const other = row(2).mapToItem(list(), 300, 10);
+        compare(list().tipAt(other.x, other.y), "");
+        verify(row(3).hint !== "");
+        mouseMove(row(3), 300, 10);
+        tryCompare(tips(), "length", 1);
+        compare(tips(), [row(3).hint]);
+        mouseMove(view, 1, 1);
+        compare(tips(), []);
+        list().forceActiveFocus(Qt.TabFocusReason);
+        list().walkTo(3);
+        compare(tips(), [row(3).hint]);
+        list().walkTo(2);
+        compare(tips(), []);
     }
 
     function test_everything_fits_at_any_size_data() {

@@ -11,6 +11,8 @@ TestCase {
     height: 400
     visible: true
 
+    readonly property string protection: "Protected: it may hold passwords, keys or settings, so it cannot be selected"
+
     Finder {
         id: find
     }
@@ -284,8 +286,14 @@ TestCase {
             compare(told.length, 1);
             compare(told[0] instanceof AccessItem, data.isProtected);
             compare(told[0].enabled, !data.isProtected);
+            compare(told[0].Accessible.description, role === Accessible.Button ? "About this item" : data.isProtected ? test.protection : "");
         }
         compare(find.texts(row)[0], "npm cache");
+    }
+
+    function test_protected_it_says_why_it_cannot_be_selected() {
+        compare(make({ isProtected: true }).hint, test.protection);
+        compare(make().hint, "");
     }
 
     function test_unprotected_it_is_opaque_and_enabled() {
@@ -363,7 +371,7 @@ TestCase {
         compare(row.Accessible.role, Accessible.ListItem);
         compare(row.Accessible.name, "npm cache");
         compare(row.Accessible.description, "/home/user/.npm");
-        compare(make({ isProtected: true }).Accessible.description, "Disabled, /home/user/.npm");
+        compare(make({ isProtected: true }).Accessible.description, "Disabled, /home/user/.npm. " + test.protection);
     }
 
     function test_rings_lie_clear_of_their_symbols() {

@@ -120,12 +120,23 @@ TestCase {
         compare(places(), before);
     }
 
+    function tip(button: PillButton): Tip {
+        return Array.from(button.children).find(child => child.isAsked !== undefined).tip;
+    }
+
+    function test_the_delete_button_says_what_it_takes_and_that_it_asks() {
+        const view = make("deletionRequested");
+        view.hasSelection = true;
+        compare(finder.button(view, "Delete Zero KB").Accessible.description, "Deletes the selected items of every category permanently; asks first");
+    }
+
     function test_tooltip_explains_smart_select() {
         const button = finder.button(make("smartSelect"), "Smart Select");
         mouseMove(button, 20, 20);
-        tryVerify(() => Array.from(button.data).some(child => child.text === "Select all items marked as safe to delete" && child.opened), 3000);
+        tryVerify(() => tip(button)?.opened ?? false, 3000);
+        compare(tip(button).text, "Select all items marked as safe to delete");
         mouseMove(test, 1, 400);
-        tryVerify(() => !Array.from(button.data).some(child => child.opened === true));
+        compare(tip(button), null);
     }
 
     function test_all_five_cards_stand_in_their_order() {
