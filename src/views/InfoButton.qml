@@ -1,6 +1,6 @@
 import QtQuick
 
-/// Opens the note on an item's risk, and gets the focus back when that is closed.
+/// Opens the note on an item's risk and closes it again; it gets the focus back then.
 SymbolButton {
     id: button
 
@@ -33,8 +33,11 @@ SymbolButton {
     symbol: "info.circle"
     label: "Information"
     hint: "About this item"
-    onClicked: if (button.enabled)
-        button.open()
+    isOpen: button.showInfo
+    onClicked: if (button.showInfo)
+        button.popover.close();
+    else if (button.enabled)
+        button.open();
 
     // Made when asked for: a popup in each row would slow scrolling down.
     Component {

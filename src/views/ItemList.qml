@@ -67,6 +67,7 @@ RowsView {
         id: row
 
         required property int index
+        readonly property bool isMoving: list.moving
 
         function takeItsPlace(): void {
             Siblings.put(row, list.itemAtIndex(row.index - 1), list.itemAtIndex(row.index + 1));
@@ -80,6 +81,7 @@ RowsView {
         x: 8
         width: list.width - 16
         isCurrent: ListView.isCurrentItem
+        onIsMovingChanged: row.closeInfo()
         onClicked: list.currentIndex = row.index
         onToggled: {
             list.currentIndex = row.index;

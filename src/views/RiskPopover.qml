@@ -1,7 +1,8 @@
 import QtQuick
 import QtQuick.Templates as T
 
-/// Says why an item carries its risk, next to the button that asked; gives it the focus back.
+/// Says why an item carries its risk. It stands below the button that asked, or above it where the
+/// window ends, and points at it.
 T.Popup {
     id: popover
 
@@ -10,28 +11,31 @@ T.Popup {
     required property string riskLabel
     required property string riskSymbol
     required property string note
-    readonly property real room: popover.opener.mapToItem(null, 0, 0).y
-    /// Above the button, or below it where the window leaves no room above.
-    readonly property bool isAbove: popover.room >= popover.implicitHeight + Theme.space16
+    readonly property real arrow: Theme.space8
+    /// From the button's middle, past its symbol and the arrow.
+    readonly property real distance: Theme.space12 + popover.arrow
+    readonly property real middle: popover.opener.height / 2
+    readonly property real room: popover.opener.Window.height - popover.opener.mapToItem(null, 0, popover.middle).y
+    readonly property bool isAbove: popover.room < popover.distance + popover.implicitHeight + popover.margins
 
     parent: popover.opener
     x: Math.round((popover.opener.width - popover.width) / 2)
-    y: popover.isAbove ? -popover.height - Theme.space4 : popover.opener.height + Theme.space4
+    y: Math.round(popover.middle + (popover.isAbove ? -popover.distance - popover.height : popover.distance))
     width: 280
     padding: 16
     margins: Theme.space8
     focus: true
-    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    // The button closes it by itself.
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
 
     // What Qt puts around the content is a dialog too, but one without a name.
     Component.onCompleted: popover.contentItem.parent.Accessible.ignored = true
 
-    background: Rectangle {
-        radius: 10
-        color: Theme.sheet
-        border.width: 1
-        border.color: Theme.outline
+    background: PointedPanel {
+        arrow: popover.arrow
+        aim: popover.opener.width / 2 - popover.x
+        isAbove: popover.isAbove
     }
 
     contentItem: FocusScope {
@@ -44,6 +48,7 @@ T.Popup {
         Accessible.description: popover.note
         Keys.onSpacePressed: popover.close()
         Keys.onReturnPressed: popover.close()
+        Keys.onEnterPressed: popover.close()
 
         Column {
             width: parent.width

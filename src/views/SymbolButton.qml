@@ -7,6 +7,8 @@ PressButton {
     id: button
 
     required property string symbol
+    /// Whether what it opens is open.
+    property bool isOpen: false
     property int symbolSize: Theme.space16
 
     implicitWidth: Theme.space20
@@ -17,8 +19,17 @@ PressButton {
         Symbol {
             anchors.centerIn: parent
             name: button.symbol
-            color: button.hovered && !button.down ? Theme.label : Theme.secondary
+            color: button.isOpen ? Theme.blue : button.hovered && !button.down ? Theme.label : Theme.secondary
             size: button.symbolSize
+
+            Rectangle {
+                anchors.fill: parent
+                anchors.margins: -Theme.space4
+                z: -1
+                radius: width / 2
+                color: Theme.quaternary
+                visible: button.isOpen
+            }
 
             FocusRing {
                 visible: button.visualFocus

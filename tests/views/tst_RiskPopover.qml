@@ -78,6 +78,97 @@ TestCase {
         compare(popover.height, note.mapToItem(popover.contentItem, 0, 0).y + note.height + 32);
     }
 
+    /// The middle of the button's symbol, in the window.
+    function target(button: InfoButton): point {
+        return button.mapToItem(null, button.width / 2, button.height / 2);
+    }
+
+    function arrowOf(popover: RiskPopover): Item {
+        return Array.from(popover.background.children).find(child => child.clip);
+    }
+
+    function test_points_at_its_button_data() {
+        return [
+            { tag: "from below", x: 600, y: 300, isAbove: false },
+            { tag: "from above, at the window's end", x: 600, y: 600, isAbove: true },
+            { tag: "just from below", x: 600, y: 610 - opened().popover.height, isAbove: false },
+            { tag: "just from above", x: 600, y: 611 - opened().popover.height, isAbove: true },
+            { tag: "moved into the window", x: 860, y: 300, isAbove: false }
+        ];
+    }
+
+    function test_points_at_its_button(data) {
+        const button = opened({ x: data.x, y: data.y });
+        const popover = button.popover;
+        compare(popover.isAbove, data.isAbove);
+        const arrow = arrowOf(popover);
+        const tip = arrow.mapToItem(null, arrow.width / 2, data.isAbove ? arrow.height : 0);
+        compare(tip.x, target(button).x);
+        compare(Math.abs(tip.y - target(button).y), 12, "next to the symbol and its ring");
+        const place = placeOf(popover);
+        compare(data.isAbove ? tip.y - place.bottom : place.top - tip.y, 8);
+        verify(place.right <= 892);
+    }
+
+    function test_is_nearer_to_its_button_than_to_the_next_row_s() {
+        const rowPitch = 41;
+        const button = opened();
+        verify(placeOf(button.popover).top - 8 - target(button).y < rowPitch / 2);
+    }
+
+    function test_the_arrow_opens_the_outline() {
+        const popover = opened().popover;
+        const place = placeOf(popover);
+        const picture = grabImage(popover.background.parent.parent);
+        verify(Qt.colorEqual(picture.pixel(target(popover.opener).x, place.top), Theme.sheet));
+        verify(!Qt.colorEqual(picture.pixel(target(popover.opener).x + 20, place.top), Theme.sheet));
+    }
+
+    function test_its_button_is_drawn_as_open() {
+        const button = opened();
+        verify(Qt.colorEqual(find.symbol(button, "info.circle").color, Theme.blue));
+        keyClick(Qt.Key_Escape);
+        tryCompare(button, "showInfo", false);
+        verify(!Qt.colorEqual(find.symbol(button, "info.circle").color, Theme.blue));
+    }
+
+    function test_a_click_on_its_button_closes_it_and_another_opens_it() {
+        const button = opened();
+        for (const showInfo of [false, true, false]) {
+            mousePress(button);
+            mouseRelease(button);
+            waitForRendering(test, 50);
+            compare(button.showInfo, showInfo);
+        }
+    }
+
+    function test_a_click_on_another_button_closes_it_and_opens_the_other() {
+        const button = opened({ y: 400 });
+        const other = createTemporaryObject(buttonComponent, test, { y: 300 });
+        mousePress(other);
+        compare(button.showInfo, false);
+        mouseRelease(other);
+        compare(other.showInfo, true);
+        tryCompare(other.popover, "opened", true);
+        compare(button.showInfo, false);
+    }
+
+    function test_a_press_of_a_key_closes_it_and_its_release_does_nothing_data() {
+        return [{ tag: "Space", key: Qt.Key_Space }, { tag: "Return", key: Qt.Key_Return }, { tag: "Enter", key: Qt.Key_Enter }];
+    }
+
+    function test_a_press_of_a_key_closes_it_and_its_release_does_nothing(data) {
+        const button = createTemporaryObject(buttonComponent, test);
+        button.forceActiveFocus(Qt.TabFocusReason);
+        for (const showInfo of [true, false, true, false]) {
+            keyPress(data.key);
+            keyRelease(data.key);
+            waitForRendering(test, 50);
+            compare(button.showInfo, showInfo);
+            compare(button.activeFocus, !showInfo);
+        }
+    }
+
     function test_stays_in_the_window_data() {
         return [
             { tag: "top left", x: 0, y: 0 },
