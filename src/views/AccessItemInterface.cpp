@@ -58,6 +58,8 @@ QAccessible::State AccessItemInterface::state() const {
     state.disabled = !item()->isEnabled();
     state.checkable = role() == QAccessible::CheckBox;
     state.checked = said(item(), QStringLiteral("Accessible.checked")).toBool();
+    state.focused = item()->hasActiveFocus();
+    state.focusable = state.focused;
     state.readOnly = role() == QAccessible::ProgressBar;
     state.invisible = window() == nullptr || !item()->isVisible();
     state.offscreen = !state.invisible && !window()->geometry().intersects(rect());

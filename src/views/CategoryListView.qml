@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 
 /// The items of one category, largest first: narrow them, select them, ask for their deletion.
-FocusScope {
+Scene {
     id: pane
 
     required property string name
@@ -24,8 +24,11 @@ FocusScope {
     signal deletePressed
     signal dismissed
 
+    first: list.count > 0 ? list : filter
     Keys.onEscapePressed: pane.dismissed()
     onNameChanged: list.start()
+    // Rows that came while it was hidden are not counted before.
+    onVisibleChanged: list.forceLayout()
 
     Shortcut {
         sequence: "Ctrl+F"

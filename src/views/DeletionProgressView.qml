@@ -18,6 +18,7 @@ FocusScope {
 
         ProgressRing {
             anchors.horizontalCenter: parent.horizontalCenter
+            focus: true
             width: 80
             height: 80
             lineWidth: 4

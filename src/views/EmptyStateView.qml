@@ -1,10 +1,12 @@
 import QtQuick
 
 /// What a scan that found nothing shows.
-Item {
+Scene {
     id: view
 
     signal scan
+
+    first: button
 
     Column {
         anchors.centerIn: parent
@@ -31,6 +33,8 @@ Item {
         }
 
         PillButton {
+            id: button
+
             anchors.horizontalCenter: parent.horizontalCenter
             label: "Scan Again"
             onClicked: view.scan()

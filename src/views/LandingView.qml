@@ -3,10 +3,12 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 /// What the window shows before the first scan.
-Item {
+Scene {
     id: landing
 
     signal scan
+
+    first: button
 
     Column {
         anchors.centerIn: parent
@@ -51,6 +53,7 @@ Item {
             PillButton {
                 id: button
 
+                focus: true
                 label: "Start System Scan"
                 symbol: "magnifyingglass"
                 font.pixelSize: Theme.headline

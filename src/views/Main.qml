@@ -62,6 +62,7 @@ T.ApplicationWindow {
         LandingView {
             anchors.fill: parent
             visible: window.isLanding
+            focus: true
             onScan: content.startScan(content.optionHeld())
         }
 
@@ -69,7 +70,6 @@ T.ApplicationWindow {
             id: session
 
             anchors.fill: parent
-            focus: true
         }
     }
 }

@@ -8,6 +8,7 @@ Item {
     required property string totalSummary
     required property bool hasSelection
     required property string deleteLabel
+    readonly property Item first: select
 
     signal smartSelect
     signal deletionRequested

@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 
 /// The dashboard of a session: what was found in all, and a card for each category.
-Item {
+Scene {
     id: view
 
     required property string totalSummary
@@ -15,6 +15,8 @@ Item {
     signal smartSelect
     signal deletionRequested
     signal categoryChosen(int category)
+
+    first: header.first
 
     OverviewHeader {
         id: header

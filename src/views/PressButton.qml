@@ -4,6 +4,7 @@ import Drossbin.Views
 
 /// What every button here does, whatever it looks like: the pointer, Space, Return and a screen
 /// reader press it alike, and when the pointer or the keyboard rests on it, it says what it does.
+/// One that is not shown cannot be pressed.
 T.AbstractButton {
     id: button
 
@@ -16,10 +17,18 @@ T.AbstractButton {
             button.clicked();
     }
 
+    enabled: button.visible
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
-    Keys.onReturnPressed: button.press()
-    Keys.onEnterPressed: button.press()
+    // A key shows where it goes, also where the window brought the focus.
+    Keys.onPressed: event => {
+        const isReturn = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
+        if (isReturn || event.key === Qt.Key_Space || event.key === Qt.Key_Tab)
+            button.focusReason = Qt.TabFocusReason;
+        if (isReturn)
+            button.press();
+        event.accepted = isReturn;
+    }
     Accessible.role: Accessible.Button
     Accessible.name: button.label
     Accessible.description: button.hint

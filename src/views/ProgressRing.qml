@@ -2,7 +2,7 @@ import QtQuick
 import Drossbin.Views
 
 /// A ring that fills clockwise from its top; what it holds stands in its middle.
-Item {
+FocusScope {
     id: ring
 
     required property real progress
@@ -36,6 +36,7 @@ Item {
 
     AccessItem {
         anchors.fill: parent
+        focus: true
         value: ring.progress
         Accessible.role: Accessible.ProgressBar
         Accessible.name: ring.name

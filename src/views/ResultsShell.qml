@@ -9,12 +9,30 @@ FocusScope {
     required property bool canScan
     property alias sidebar: sidebarArea.data
     default property alias detail: detailArea.data
+    readonly property Scene shown: Array.from(detailArea.children).find(child => child.visible) as Scene
+    /// What the keyboard was in is gone: then a scope has it, and no control.
+    readonly property bool isLost: shell.activeFocus && shell.Window.activeFocusItem instanceof FocusScope
 
     signal scan
     signal escaped
 
+    /// Leaves the keyboard where it is, unless that is gone.
+    function keepFocus(): void {
+        if (shell.isLost)
+            shell.shown?.enter();
+    }
+
     focus: true
+    onIsLostChanged: whenAllIsShown.restart()
+    onShownChanged: whenAllIsShown.restart()
     Keys.onEscapePressed: shell.escaped()
+
+    Timer {
+        id: whenAllIsShown
+
+        interval: 0
+        onTriggered: shell.keepFocus()
+    }
 
     Rectangle {
         id: column

@@ -3,12 +3,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 /// How far the scan is, how much it has found, and what it looks at.
-Item {
+Scene {
     id: view
 
     required property real progress
     required property string bytesFoundText
     required property string currentTask
+
+    first: ring
 
     Column {
         anchors.centerIn: parent
@@ -17,6 +19,8 @@ Item {
         spacing: Theme.space24
 
         ProgressRing {
+            id: ring
+
             anchors.horizontalCenter: parent.horizontalCenter
             name: "Scanning your Mac..."
             progress: view.progress

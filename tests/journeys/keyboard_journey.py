@@ -54,6 +54,48 @@ class Keyboard(Journey):
         self.program.wait_until_gone("label", "Cleanup Complete!")
         self.assertFalse(os.path.exists(path))
 
+    def is_reached(self, role, name):
+        wait_for(lambda: f"the focus on {name}, not on {self.program.focused()}",
+                 lambda: self.is_at(role, name))
+
+    def test_each_screen_has_the_keyboard_at_its_first_control(self):
+        self.is_reached("push button", "Start System Scan")
+        self.key("Return")
+        self.is_reached("list", "Items")  # the first row is protected
+        self.key("Down")
+        self.is_reached("list item", "com.example.Editor")
+        self.key("Escape")
+        self.is_reached("push button", "Smart Select")
+        self.walk_to("push button", "Package Caches")
+        self.key("Return")
+        self.is_reached("list item", "Cargo/Rust cache")
+
+    def test_a_filter_that_is_not_seen_takes_no_letters(self):
+        self.scan_by_keys()
+        self.key("Control_L", "f")
+        self.is_reached("text", "Filter items...")
+        self.key("Escape")
+        self.is_reached("push button", "Smart Select")
+        self.program.desktop.type("xy")
+        self.key("space")
+        self.program.find_starting("push button", "Delete ")
+        self.assertNotIn("0 items", " ".join(c.description for c in self.program.shown("push button")))
+
+    def test_return_again_after_the_report_asks_for_nothing(self):
+        self.scan_by_keys()
+        self.walk_to("push button", "Select All Safe")
+        self.key("space")
+        self.walk_to("push button", "Delete Selected")
+        self.key("Return")
+        self.walk_to("push button", "Confirm & Delete")
+        self.key("Return")
+        self.is_reached("push button", "Done")
+        self.key("Return")
+        self.key("Return")
+        self.program.wait_until_gone("dialog", "Cleanup Complete!")
+        self.wait_for_scan(self.program)
+        self.assertEqual(self.program.names("dialog"), [])
+
     def test_escape_is_cancel_on_the_confirmation_and_gives_the_focus_back(self):
         self.scan_by_keys()
         self.walk_to("push button", "Select All Safe")
