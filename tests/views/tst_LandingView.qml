@@ -175,6 +175,28 @@ TestCase {
         compare(scans.count, 0);
     }
 
+    function test_the_keyboard_begins_at_the_button_and_tab_shows_it() {
+        const view = make();
+        view.forceActiveFocus();
+        compare(scanButton(view).activeFocus, true);
+        compare(scanButton(view).visualFocus, false);
+        keyClick(Qt.Key_Tab);
+        compare(scanButton(view).visualFocus, true);
+        keyClick(Qt.Key_Return);
+        compare(scans.count, 1);
+    }
+
+    function test_hidden_it_does_not_react() {
+        const view = make();
+        view.forceActiveFocus();
+        view.visible = false;
+        keyClick(Qt.Key_Return);
+        keyClick(Qt.Key_Space);
+        compare(scans.count, 0);
+        compare(scanButton(view), null);
+        compare(view.enabled, false);
+    }
+
     function test_the_keyboard_reaches_and_presses_the_button() {
         const view = make();
         keyClick(Qt.Key_Tab);

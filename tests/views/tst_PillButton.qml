@@ -193,6 +193,19 @@ TestCase {
         compare(clicks.count, 1);
     }
 
+    function test_hidden_it_keeps_no_key_and_cannot_be_pressed() {
+        const button = make();
+        button.forceActiveFocus(Qt.TabFocusReason);
+        button.visible = false;
+        compare(button.activeFocus, false);
+        keyClick(Qt.Key_Return);
+        keyClick(Qt.Key_Space);
+        button.press();
+        compare(clicks.count, 0);
+        button.visible = true;
+        compare(button.enabled, true);
+    }
+
     function test_other_keys_do_not_press_it() {
         make().forceActiveFocus(Qt.TabFocusReason);
         keyClick(Qt.Key_A);

@@ -222,6 +222,36 @@ TestCase {
         compare(list().Accessible.role, Accessible.List);
     }
 
+    function tips(): var {
+        return find.seen(sidebar).filter(item => item.isAsked && item.tip !== null).map(hint => hint.tip.text);
+    }
+
+    function test_the_picked_row_and_the_heading_tell_the_way_back() {
+        const way = "Escape shows the overview of all categories";
+        const heading = find.label(sidebar, "Categories");
+        compare(heading.Accessible.description, "");
+        choose(2);
+        compare(heading.Accessible.description, way);
+        compare(row("App Data").Accessible.description, "0 items · Zero KB. " + way);
+        compare(row("Log Files").Accessible.description, "1 items · 1 byte");
+        mouseMove(heading);
+        compare(tips(), [way]);
+        mouseMove(row("App Data"));
+        compare(tips(), [way]);
+        mouseMove(row("Log Files"));
+        compare(tips(), []);
+        choose(-1);
+        mouseMove(row("App Data"));
+        compare(tips(), []);
+    }
+
+    function test_a_row_just_picked_tells_nothing() {
+        mouseMove(row("App Data"));
+        mouseClick(row("App Data"));
+        tryCompare(sidebar, "selectedCategory", 2);
+        compare(tips(), []);
+    }
+
     function test_captions_follow_the_model() {
         categories.setProperty(0, "caption", "1 items · 2 KB");
         compare(find.label(row("Program Caches"), "1 items · 2 KB").visible, true);
