@@ -62,6 +62,22 @@ Item {
                 compare(tip.y, 24);
             }
 
+            function test_stands_above_its_place_where_the_window_ends_data() {
+                return [{ tag: "room below", y: 500, isAbove: false }, { tag: "none", y: 620, isAbove: true }];
+            }
+
+            function test_stands_above_its_place_where_the_window_ends(data) {
+                place.x = 0;
+                place.y = 0;
+                place.height = 640;
+                tip.place = Qt.rect(60, data.y, 0, 16);
+                show("short");
+                const corner = tip.contentItem.mapToItem(null, -tip.leftPadding, -tip.topPadding);
+                compare(corner.y, data.isAbove ? 616 - tip.height : 520);
+                place.height = 20;
+                tip.place = Qt.binding(() => Qt.rect(0, 0, place.width, place.height));
+            }
+
             function test_fits_the_smallest_window_data() {
                 const rows = [];
                 for (const [tag, character] of [["narrow", "i"], ["ordinary", "e"], ["wide", "W"], ["word", "/folder of mine"], ["full", "漢"], ["emoji", "😀"], ["high", "ที่"], ["joined", "ملف"], ["stacked", "क्ष्म्य"], ["piled up", "ཀ" + "ྐ".repeat(40)]])
