@@ -68,6 +68,8 @@ FocusScope {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.top: toolbar.bottom
+            // Scan leaves room below it, which the smallest window needs.
+            anchors.topMargin: -Theme.space20
             anchors.bottom: parent.bottom
         }
     }

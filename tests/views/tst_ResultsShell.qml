@@ -66,7 +66,7 @@ TestCase {
     function test_scan_is_in_the_middle_of_the_top_line() {
         const button = finder.button(shell, "Scan");
         compare(button.mapToItem(shell, 0, button.height / 2).y, Theme.topLine / 2);
-        compare(left.mapToItem(shell, 0, 0).y, Theme.topLine);
+        compare(left.mapToItem(shell, 0, 0).y, Theme.topLine - 20);
     }
 
     function test_scan_is_asked_for() {

@@ -62,6 +62,16 @@ TestCase {
         return find.control(sidebar, Accessible.List, "Categories");
     }
 
+    function test_fits_under_the_toolbar_of_the_smallest_window() {
+        sidebar.height = 400 - (Theme.topLine - 20);
+        waitForRendering(sidebar);
+        const meter = find.label(sidebar, "Cache Found").parent.parent;
+        compare(meter.mapToItem(sidebar, 0, meter.height).y, sidebar.height - 20);
+        const last = find.label(sidebar, "Old Downloads").parent;
+        verify(last.mapToItem(sidebar, 0, last.height).y < meter.mapToItem(sidebar, 0, 0).y);
+        sidebar.height = 650;
+    }
+
     function test_shows_the_categories_in_order_and_then_the_meter() {
         compare(find.texts(sidebar).join("|"), ["Categories",
             "Program Caches", "3 items · 4 MB", "Package Caches", "7 items · 8.1 GB", "App Data", "0 items · Zero KB",
