@@ -1,8 +1,7 @@
 #pragma once
 
+#include "platform/BackgroundThread.h"
 #include "platform/MainThread.h"
-
-#include <QThreadPool>
 
 #include <coroutine>
 #include <optional>
@@ -23,7 +22,7 @@ class Background {
     [[nodiscard]] bool await_ready() const { return false; }
 
     void await_suspend(std::coroutine_handle<> flow) {
-        QThreadPool::globalInstance()->start([this, flow] {
+        BackgroundThread::run([this, flow] {
             m_result = m_work();
             MainThread::post([flow] { flow.resume(); });
         });

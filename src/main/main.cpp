@@ -1,4 +1,5 @@
 #include "app/EventLoop.h"
+#include "platform/BackgroundThread.h"
 #include "platform/Locale.h"
 #include "views/Renderer.h"
 #include "views/Typeface.h"
@@ -6,7 +7,6 @@
 #include <QGuiApplication>
 #include <QLocale>
 #include <QQmlApplicationEngine>
-#include <QThreadPool>
 
 #include <cstdlib>
 
@@ -45,7 +45,7 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     const int result = QGuiApplication::exec();
-    if (QThreadPool::globalInstance()->activeThreadCount() > 0) {
+    if (BackgroundThread::isAnyRunning()) {
         // A scan is still walking the disk. It changes nothing and holds nothing that must be put
         // away, while waiting for it would keep a closed program alive for as long as it takes.
         std::_Exit(result);

@@ -1,6 +1,7 @@
 #include "Session.h"
 
 #include <QSemaphore>
+#include <QThreadPool>
 #include <QTimer>
 
 #include <gmock/gmock.h>
@@ -124,6 +125,14 @@ TEST(Scan, is_not_started_a_second_time_while_one_runs) {
     held.gate.release(2);
     EXPECT_TRUE(turnUntil([&held] { return !held.view.scanResult().isScanning.get(); }));
     EXPECT_EQ(held.scans, 1);
+}
+
+// The screens' own pictures are drawn with those threads where there is much to blend.
+TEST(Scan, keeps_none_of_the_toolkits_own_threads) {
+    HeldScan held;
+    held.view.startScan(false);
+    EXPECT_TRUE(turnUntil([&held] { return held.scans > 0; }));
+    EXPECT_EQ(QThreadPool::globalInstance()->activeThreadCount(), 0);
 }
 
 TEST(Scan, can_be_started_again_after_its_end) {

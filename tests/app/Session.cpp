@@ -1,7 +1,8 @@
 #include "Session.h"
 
+#include "platform/BackgroundThread.h"
+
 #include <QTest>
-#include <QThreadPool>
 
 #include <sstream>
 #include <utility>
@@ -114,7 +115,7 @@ void turn() {
 }
 
 void settle() {
-    QThreadPool::globalInstance()->waitForDone();
+    BackgroundThread::waitForAll();
     turn();
     turn();
 }

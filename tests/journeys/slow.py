@@ -14,7 +14,7 @@ def is_possible():
     ).returncode
 
 
-def on(folder, milliseconds):
+def on(folder, milliseconds, calls=CALLS):
     """What to put before the program's command."""
-    delay = f"inject={CALLS}:delay_enter={milliseconds * 1000}"
-    return ["strace", "-f", "-qq", "-o", "/dev/null", "-P", folder, "-e", f"trace={CALLS}", "-e", delay]
+    delay = f"inject={calls}:delay_enter={milliseconds * 1000}"
+    return ["strace", "-f", "-qq", "-o", "/dev/null", "-P", folder, "-e", f"trace={calls}", "-e", delay]

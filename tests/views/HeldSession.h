@@ -1,11 +1,11 @@
 #pragma once
 
 #include "app/ContentView.h"
+#include "platform/BackgroundThread.h"
 
 #include <QCoreApplication>
 #include <QSemaphore>
 #include <QStringList>
-#include <QThreadPool>
 
 #include <memory>
 #include <string>
@@ -101,7 +101,7 @@ class HeldSession : public ContentView {
     }
 
     static void settle() {
-        QThreadPool::globalInstance()->waitForDone();
+        BackgroundThread::waitForAll();
         QCoreApplication::processEvents();
         QCoreApplication::processEvents();
     }
