@@ -4,8 +4,22 @@
 #include "scanner/MockData.h"
 
 #include <QCoroTimer>
+#include <QTimer>
 
 namespace drossbin {
+
+namespace {
+
+/// A timer that is not precise may end a twentieth early.
+QCoro::Task<> sleepAtLeast(std::chrono::nanoseconds time) {
+    QTimer timer;
+    timer.setTimerType(Qt::PreciseTimer);
+    timer.setSingleShot(true);
+    timer.start(std::chrono::ceil<std::chrono::milliseconds>(time));
+    co_await timer;
+}
+
+} // namespace
 
 Services Services::real() {
     return {
@@ -16,7 +30,7 @@ Services Services::real() {
                 return DiskCleaner::deleteItems(items, progress);
             },
         .diskSpace = [] { return FileManager::systemSize("/"); },
-        .sleep = [](std::chrono::nanoseconds time) { return QCoro::sleepFor(time); },
+        .sleep = sleepAtLeast,
     };
 }
 
