@@ -61,24 +61,32 @@ void ContentView::goBack() {
     }
 }
 
-// The controls that start a run are gone only when the screens have been redrawn, and a sheet takes
-// its time to leave: a second press that comes before is not a second run.
+// The controls that start a run are gone only when the screens have been redrawn, a sheet takes its
+// time to come and to leave, and assistive programs press what lies below one: a press that comes
+// too early or too late does nothing.
+
+bool ContentView::isBusy() const {
+    return m_scanResult.isScanning || m_scanResult.showConfirmation || m_scanResult.isDeleting ||
+           m_scanResult.showDeletionComplete;
+}
 
 void ContentView::startScan(bool demo) {
-    if (!m_scanResult.isScanning) {
+    if (!isBusy()) {
         measureDisk();
         performScan(demo);
     }
 }
 
 void ContentView::confirmDeletion() {
-    if (m_scanResult.showConfirmation && !m_scanResult.isDeleting) {
+    if (m_scanResult.showConfirmation && !m_scanResult.isScanning && !m_scanResult.isDeleting) {
         performDeletion();
     }
 }
 
 void ContentView::requestDeletion() {
-    m_scanResult.showConfirmation = true;
+    if (!isBusy()) {
+        m_scanResult.showConfirmation = true;
+    }
 }
 
 void ContentView::cancelDeletion() {

@@ -92,6 +92,9 @@ class ContentView : public drossbin::ScreenState {
         int selectedCategory = -1;
     };
 
+    /// Whether a run or a sheet has the screen, so that no other may begin.
+    [[nodiscard]] bool isBusy() const;
+
     QCoro::Task<> performScan(bool demo);
     QCoro::Task<std::vector<DiskItem>> scanDisk();
     QCoro::Task<std::vector<DiskItem>> scanDemo();

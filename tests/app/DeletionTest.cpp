@@ -142,6 +142,41 @@ TEST_F(Deletion, is_not_started_by_a_second_press_while_the_sheet_leaves) {
     EXPECT_EQ(runs, 0);
 }
 
+TEST_F(Deletion, is_not_confirmed_while_a_scan_runs) {
+    view.requestDeletion();
+    view.scanResult().isScanning = true;
+    view.confirmDeletion();
+    EXPECT_FALSE(view.scanResult().isDeleting.get());
+    EXPECT_TRUE(view.showConfirmation());
+    view.scanResult().isScanning = false;
+    view.confirmDeletion();
+    waitForTheEnd();
+    EXPECT_EQ(runs, 1);
+}
+
+TEST_F(Deletion, is_asked_for_only_while_nothing_else_has_the_screen) {
+    ScanResult& result = view.scanResult();
+    for (Published<bool, ScanResult::Field>* const flag :
+         {&result.isScanning, &result.isDeleting, &result.showDeletionComplete}) {
+        *flag = true;
+        view.requestDeletion();
+        EXPECT_FALSE(view.showConfirmation());
+        *flag = false;
+    }
+    view.requestDeletion();
+    EXPECT_TRUE(view.showConfirmation());
+}
+
+TEST_F(Deletion, is_not_asked_for_by_a_second_press_on_done) {
+    askAndConfirm();
+    waitForTheEnd();
+    view.dismissCompletion();
+    view.requestDeletion();
+    EXPECT_FALSE(view.showConfirmation());
+    test::settle();
+    EXPECT_EQ(scans, 1);
+}
+
 TEST_F(Deletion, starts_a_real_scan_when_dismissed_even_after_a_demo) {
     view.startScan(true);
     test::settle();

@@ -127,6 +127,20 @@ TEST(Scan, is_not_started_a_second_time_while_one_runs) {
     EXPECT_EQ(held.scans, 1);
 }
 
+TEST(Scan, is_not_started_while_a_sheet_is_up) {
+    ContentView view(servicesThatFind({item("a", 1)}));
+    ScanResult& result = view.scanResult();
+    for (Published<bool, ScanResult::Field>* const flag :
+         {&result.showConfirmation, &result.isDeleting, &result.showDeletionComplete}) {
+        *flag = true;
+        test::scan(view);
+        EXPECT_FALSE(result.hasScanned.get());
+        *flag = false;
+    }
+    test::scan(view);
+    EXPECT_TRUE(result.hasScanned.get());
+}
+
 // The screens' own pictures are drawn with those threads where there is much to blend.
 TEST(Scan, keeps_none_of_the_toolkits_own_threads) {
     HeldScan held;
