@@ -7,12 +7,12 @@ T.ApplicationWindow {
 
     readonly property bool isLanding: content.screen === ContentView.Landing
 
-    // By address: what the landing screen does not show is not read at the start.
+    // By address: what the landing screen does not show is not read at the start. It is made in
+    // pieces between the events, and the landing screen stays until it is there.
     function startSession(): void {
         session.setSource("Session.qml", {
             content: content
         });
-        session.forceActiveFocus();
     }
 
     width: 900
@@ -61,7 +61,7 @@ T.ApplicationWindow {
 
         LandingView {
             anchors.fill: parent
-            visible: window.isLanding
+            visible: !session.visible
             focus: true
             onScan: content.startScan(content.optionHeld())
         }
@@ -70,6 +70,9 @@ T.ApplicationWindow {
             id: session
 
             anchors.fill: parent
+            asynchronous: true
+            visible: session.status === Loader.Ready
+            onLoaded: session.forceActiveFocus()
         }
     }
 }
