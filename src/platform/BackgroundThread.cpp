@@ -1,6 +1,7 @@
 #include "platform/BackgroundThread.h"
 
 #include "platform/MainThread.h"
+#include "platform/ThreadPriority.h"
 
 #include <atomic>
 #include <cstddef>
@@ -30,7 +31,10 @@ void BackgroundThread::run(Job job) {
     ++jobsLeft();
     const auto work = [job = std::move(job)] { finish(job); };
     try {
-        std::thread(work).detach();
+        std::thread([work] {
+            goAfterOthers();
+            work();
+        }).detach();
     } catch (const std::system_error&) {
         MainThread::post(work);
     }

@@ -2,6 +2,7 @@
 
 #include "platform/CheckedSum.h"
 #include "platform/ProcessorCore.h"
+#include "platform/ThreadPriority.h"
 
 #include <algorithm>
 #include <memory>
@@ -71,6 +72,7 @@ void WalkCrew::startThread() {
         // another core is idle as 10,000 files take to be measured.
         std::thread([this, makers = currentCore()] {
             leaveCore(makers);
+            goAfterOthers();
             work();
         }).detach();
         ++m_threads;
