@@ -44,6 +44,15 @@ class Demo(Journey):
         self.press_with(program, "Scan", "Alt_L", "Shift_L")
         self.finds_demo_items(program)
 
+    def test_a_plain_click_on_the_toolbar_button_scans_the_disk_whatever_was_before(self):
+        self.home.furnish()
+        program = self.start()
+        self.press_with(program, "Start System Scan", "Alt_L")
+        self.finds_demo_items(program)
+        program.click("push button", "Scan")
+        program.find("list item", "com.example.Editor")
+        self.assertIsNone(program.now("list item", "Adobe Premiere Pro"))
+
     def test_a_second_scan_cannot_be_started_while_one_runs(self):
         program = self.start()
         self.press_with(program, "Start System Scan", "Alt_L")

@@ -24,6 +24,18 @@ TestCase {
         }
     }
 
+    Component {
+        id: landingWindow
+
+        Window {
+            visible: true
+
+            LandingView {
+                anchors.fill: parent
+            }
+        }
+    }
+
     SignalSpy {
         id: scans
 
@@ -51,7 +63,7 @@ TestCase {
         return view;
     }
 
-    function emblemOf(view: LandingView): Emblem {
+    function emblemOf(view: Item): Emblem {
         return finder.seen(view).find(item => item.isPulsing !== undefined);
     }
 
@@ -93,6 +105,22 @@ TestCase {
         view.visible = false;
         compare(emblem.isPulsing, false);
         compare(symbol.opacity, 1);
+    }
+
+    function test_emblem_rests_while_its_window_is_hidden_or_minimised() {
+        const window = createTemporaryObject(landingWindow, test);
+        const emblem = emblemOf(window.contentItem);
+        const symbol = finder.symbol(emblem, "sparkle.magnifyingglass");
+        for (const visibility of [Window.Hidden, Window.Minimized]) {
+            window.visibility = Window.Windowed;
+            tryCompare(emblem, "isPulsing", true);
+            tryVerify(() => symbol.opacity < 1);
+            window.visibility = visibility;
+            tryCompare(emblem, "isPulsing", false);
+            compare(symbol.opacity, 1);
+        }
+        test.Window.window.requestActivate();
+        tryCompare(test.Window.window, "active", true);
     }
 
     function test_emblem_rests_with_reduced_motion() {

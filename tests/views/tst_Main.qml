@@ -57,6 +57,7 @@ TestCase {
         const window = make();
         window.requestActivate();
         tryCompare(window, "active", true);
+        find.button(window.contentItem, "Start System Scan").forceActiveFocus(Qt.TabFocusReason);
         window.startSession();
         tryVerify(() => window.activeFocusItem instanceof Session);
     }

@@ -267,6 +267,53 @@ Item {
                 compare(made.content.screen, ContentView.Category);
             }
 
+            function test_the_toolbar_button_starts_a_demo_only_while_option_is_held_data() {
+                return [
+                    { tag: "no key", keys: Qt.NoModifier, isDemo: false },
+                    { tag: "Option", keys: Qt.AltModifier, isDemo: true },
+                    { tag: "Option and Shift", keys: Qt.AltModifier | Qt.ShiftModifier, isDemo: true },
+                    { tag: "Control and Shift", keys: Qt.ControlModifier | Qt.ShiftModifier, isDemo: false }
+                ];
+            }
+
+            function test_the_toolbar_button_starts_a_demo_only_while_option_is_held(data) {
+                const made = make();
+                mouseClick(find.button(made, "Scan"), 9, 9, Qt.LeftButton, data.keys);
+                // A demo's steps take no time here; a scan lasts until it is told to finish.
+                compare(made.content.screen, data.isDemo ? ContentView.Category : ContentView.Scanning);
+                made.content.finish();
+            }
+
+            function test_return_twice_on_done_asks_for_nothing_more_data() {
+                return [{ tag: "with motion", animated: true }, { tag: "without", animated: false }];
+            }
+
+            function test_return_twice_on_done_asks_for_nothing_more(data) {
+                Theme.animated = data.animated;
+                const made = make();
+                made.content.smartSelect();
+                press(made, "Delete 15 MB", Qt.Key_Return);
+                const sheets = host.contentItem.parent;
+                press(sheets, "Confirm & Delete", Qt.Key_Return);
+                tryCompare(made.content, "isDeleting", true);
+                made.content.finish();
+                tryVerify(() => find.button(sheets, "Done")?.activeFocus ?? false);
+                keyClick(Qt.Key_Return);
+                keyClick(Qt.Key_Return);
+                compare(made.content.screen, ContentView.Scanning);
+                compare(made.content.showConfirmation, false);
+                made.content.finish();
+            }
+
+            function test_the_meter_sets_what_was_found_and_what_is_selected_against_the_disk() {
+                const made = make();
+                made.content.selectedCategory = 0;
+                made.content.selectAllInCategory();
+                const meter = find.seen(made).find(item => item.barWidth !== undefined);
+                tryCompare(meter, "foundShare", 15e6 / 1e12);
+                tryCompare(meter, "selectedShare", 3e6 / 1e12);
+            }
+
             function row(made: Session, name: string): ItemRowView {
                 return find.control(made, Accessible.ListItem, name) as ItemRowView;
             }

@@ -220,6 +220,21 @@ Item {
                     compare(sheet(name), null);
             }
 
+            function test_the_confirmation_follows_the_selection_while_it_is_up() {
+                const content = make();
+                content.requestDeletion();
+                open("Delete 15 items?");
+                content.selectedCategory = 2;
+                content.deselectAllInCategory();
+                open("Delete 12 items?");
+                const confirmation = sheet("Delete 12 items?");
+                for (const text of ["Delete 12 items?", "12 MB"])
+                    verify(find.label(confirmation, text) !== null, text);
+                compare(find.control(confirmation, Accessible.List, "Selected items").count, 12);
+                content.cancelDeletion();
+                closed("Delete 12 items?");
+            }
+
             function test_escape_is_cancel_on_the_confirmation() {
                 const content = make();
                 content.requestDeletion();

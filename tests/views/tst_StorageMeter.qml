@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Drossbin.Test
 import Drossbin.Views
 
 TestCase {
@@ -28,9 +29,17 @@ TestCase {
         }
     }
 
+    HeldTime {
+        id: time
+    }
+
     function init() {
         failOnWarning(/.?/);
         Theme.animated = false;
+    }
+
+    function cleanup() {
+        time.letGo();
     }
 
     function make(properties: var): StorageMeter {
@@ -183,13 +192,18 @@ TestCase {
     function test_selected_bar_springs_to_a_new_share() {
         Theme.animated = true;
         const meter = make({ isReclaiming: true, selectedShare: 0.1 });
+        time.hold();
         compare(selected(meter).width, 20);
         meter.selectedShare = 0.5;
-        verify(selected(meter).width < 100);
-        let widest = 0;
-        selected(meter).widthChanged.connect(() => widest = Math.max(widest, selected(meter).width));
-        tryCompare(selected(meter), "width", 100);
-        verify(widest > 100, "a spring of this damping overshoots a little");
+        compare(selected(meter).width, 20);
+        time.pass(75);
+        fuzzyCompare(selected(meter).width, 20 + 80 * 0.5174, 0.05);
+        time.pass(225);
+        fuzzyCompare(selected(meter).width, 20 + 80 * 1.0084, 0.05);
+        time.pass(132);
+        verify(selected(meter).width !== 100);
+        time.pass(1);
+        compare(selected(meter).width, 100);
     }
 
     function test_selected_bar_does_not_move_with_reduced_motion() {
