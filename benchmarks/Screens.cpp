@@ -97,7 +97,8 @@ int main(int argc, char** argv) {
     qputenv("QT_NO_GLIB", "1"); // whose event loop rests in another function
     const QGuiApplication application(argc, argv);
     connectMainThreadToEventLoop();
-    const Window window(std::strtoull(argv[1], nullptr, 10));
+    Window window;
+    window.fill(std::strtoull(argv[1], nullptr, 10));
     LoopWatch watch;
     watch.longestStretch(settleTime);
     window.activate();

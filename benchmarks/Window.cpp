@@ -63,12 +63,23 @@ QQuickItem* find(QQuickItem* item, const QString& component, const char* propert
 
 } // namespace
 
-Window::Window(std::size_t count) {
+Window::Window() {
     m_engine.load(QUrl(QStringLiteral("qrc:/Drossbin/Views/Main.qml")));
     m_window = qobject_cast<QQuickWindow*>(m_engine.rootObjects().constFirst());
     m_content = m_window->findChild<ContentView*>();
+}
+
+void Window::fill(std::size_t count) {
     m_content->scanResult().items = items(count);
     m_content->scanResult().hasScanned = true;
+}
+
+void Window::clickScan() const {
+    if (m_content->screen() == ContentView::Landing) {
+        clickButton("Start System Scan");
+    } else {
+        click("ToolbarButton", "label", "Scan");
+    }
 }
 
 void Window::clickButton(const QString& label) const {

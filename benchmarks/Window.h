@@ -6,10 +6,13 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
-/// The program's own window, with a session of made-up items, and the hand that clicks in it.
+/// The program's own window, and the hand that clicks in it.
 class Window {
   public:
-    explicit Window(std::size_t items);
+    Window();
+
+    /// A session of so many made-up items, as after a scan.
+    void fill(std::size_t items);
 
     [[nodiscard]] drossbin::ContentView& content() const { return *m_content; }
 
@@ -17,6 +20,7 @@ class Window {
     void activate() const { m_window->requestActivate(); }
 
     /// Each queues what the window system would send; the event loop's next turn handles it.
+    void clickScan() const; ///< on the landing screen's button or the toolbar's
     void clickButton(const QString& label) const;
     void clickCategory(const QString& name) const;
     void clickFirstCheckBox() const;

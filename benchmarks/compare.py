@@ -17,6 +17,7 @@ sys.path.append(str(HERE.parent / "tests" / "journeys"))
 
 import world as worlds  # noqa: E402  (the path has to be known first)
 
+import answering  # noqa: E402
 import calls  # noqa: E402
 import deleting  # noqa: E402
 import idling  # noqa: E402
@@ -28,7 +29,7 @@ import starting  # noqa: E402
 import table  # noqa: E402
 from bench import Bench  # noqa: E402
 
-CHAPTERS = (measuring, scanning, calls, memory, deleting, starting, idling, interacting)
+CHAPTERS = (measuring, scanning, answering, calls, memory, deleting, starting, idling, interacting)
 
 
 def arguments():

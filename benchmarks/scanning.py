@@ -27,7 +27,7 @@ def cases(bench):
     if not bench.wants(NAME):
         return
     home = pathlib.Path(bench.world.home)
-    _furnish(bench, home)
+    furnish(bench, home)
     scan, measure = [bench.tools / "scan_home"], [bench.tools / "trees", "measure"]
     locations = _locations(home)
     _compare(scan, [*measure, *locations])
@@ -35,11 +35,12 @@ def cases(bench):
         "its measurements": lambda: milliseconds([*measure, *locations]),
         "the scan": lambda: milliseconds(scan),
     }, 7)
-    _clear(bench, home)
+    clear(bench, home)
     yield table.case(NAME, "ms", values, {"the scan": {"ratio": 1.05}})
 
 
-def _furnish(bench, home):
+def furnish(bench, home):
+    """Fills the home, and /var/log where it is a scratch folder."""
     for place, trees, files in PARTS:
         folder = home / place  # an absolute place replaces the home
         if folder.is_relative_to(home) or bench.world.has_private_logs:
@@ -76,7 +77,7 @@ def _compare(scan, measurements):
         raise RuntimeError(f"the scan found {found} bytes where {measured} are")
 
 
-def _clear(bench, home):
+def clear(bench, home):
     bench.remove(home)
     home.mkdir()
     if bench.world.has_private_logs:
