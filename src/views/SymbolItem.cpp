@@ -28,9 +28,10 @@ void SymbolItem::itemChange(ItemChange change, const ItemChangeData& data) {
 
 void SymbolItem::updatePolish() {
     const int room = qRound(m_size * window()->effectiveDevicePixelRatio());
-    m_image =
-        m_name.isEmpty() ? QImage() : drawSymbol(m_name, m_color, m_isHeavy, symbolPixels(room));
-    if (m_image.isNull() && !m_name.isEmpty()) {
+    // What is made in pieces may be polished before it has its size.
+    const bool isMade = !m_name.isEmpty() && room > 0;
+    m_image = isMade ? drawSymbol(m_name, m_color, m_isHeavy, symbolPixels(room)) : QImage();
+    if (isMade && m_image.isNull()) {
         qmlWarning(this) << "There is no symbol named " << m_name;
     }
     update();

@@ -84,6 +84,12 @@ TestCase {
         tryVerify(() => ink().length === 0);
     }
 
+    // One that is made in pieces is drawn before it has its size.
+    function test_shows_nothing_while_it_has_no_size() {
+        make({ size: 0 });
+        compare(ink(), []);
+    }
+
     function test_is_as_large_as_asked_for() {
         const made = make({ size: 56 });
         compare(Qt.size(made.width, made.height), Qt.size(56, 56));
