@@ -134,9 +134,6 @@ void ContentView::askForReducedMotion() {
 }
 
 void ContentView::noteChange(ScanResult::Field field) {
-    if (field == ScanResult::Field::items) {
-        m_surveyor.noteSelection();
-    }
     m_isSurveyStale |= field == ScanResult::Field::items || field == ScanResult::Field::searchText;
     queueRefresh();
 }
@@ -150,10 +147,12 @@ void ContentView::queueRefresh() {
 void ContentView::refresh() {
     m_isRefreshQueued = false;
     if (std::exchange(m_isSurveyStale, false)) {
-        m_survey = m_surveyor.survey(m_scanResult, m_selectedCategory);
-        m_items.refresh(m_survey);
-        m_selectedItems.refresh(m_survey);
+        m_survey = ItemSurvey::of(m_scanResult, m_selectedCategory);
+        m_items.refresh(std::move(m_survey.rows));
         m_categories.refresh(m_survey, m_selectedCategory);
+    }
+    if (m_scanResult.showConfirmation) {
+        m_selectedItems.restart(itemsToDelete());
     }
     m_deletionLog.refresh(m_scanResult.deletionLog);
     show(Snapshot::of(m_scanResult, m_survey, m_selectedCategory, m_diskSpace));

@@ -2,10 +2,10 @@
 
 #include "app/CategoryListModel.h"
 #include "app/ItemListModel.h"
+#include "app/ItemSurvey.h"
 #include "app/LogLinesModel.h"
 #include "app/MotionPreference.h"
 #include "app/ScreenState.h"
-#include "app/SelectedItemsModel.h"
 #include "app/Services.h"
 
 #include <QCoroTask>
@@ -26,7 +26,7 @@ class ContentView : public drossbin::ScreenState {
     Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY reducesMotionChanged)
     Q_PROPERTY(drossbin::CategoryListModel* categories READ categories CONSTANT)
     Q_PROPERTY(drossbin::ItemListModel* items READ items CONSTANT)
-    Q_PROPERTY(drossbin::SelectedItemsModel* selectedItems READ selectedItems CONSTANT)
+    Q_PROPERTY(drossbin::ItemListModel* selectedItems READ selectedItems CONSTANT)
     Q_PROPERTY(drossbin::LogLinesModel* deletionLog READ deletionLog CONSTANT)
 
   public:
@@ -46,8 +46,10 @@ class ContentView : public drossbin::ScreenState {
     [[nodiscard]] bool reducesMotion() const { return m_motion.isReduced(); }
 
     CategoryListModel* categories() { return &m_categories; }
+    /// The rows of the category shown.
     ItemListModel* items() { return &m_items; }
-    SelectedItemsModel* selectedItems() { return &m_selectedItems; }
+    /// What the confirmation asks about, followed only while it is up.
+    ItemListModel* selectedItems() { return &m_selectedItems; }
     LogLinesModel* deletionLog() { return &m_deletionLog; }
     ScanResult& scanResult() { return m_scanResult; }
 
@@ -101,6 +103,7 @@ class ContentView : public drossbin::ScreenState {
     QCoro::Task<> performDeletion();
     QCoro::Task<> measureDisk();
     void chooseCategory();
+    /// What is selected, in list order, hidden by the filter or not.
     [[nodiscard]] std::vector<DiskItem> itemsToDelete() const;
 
     void noteChange(ScanResult::Field field);
@@ -116,14 +119,13 @@ class ContentView : public drossbin::ScreenState {
     std::int64_t m_diskSpace = assumedDiskSpace;
     bool m_closesAfterDeletion = false;
 
-    ItemSurveyor m_surveyor;
     ItemSurvey m_survey;
     bool m_isSurveyStale = false;
     bool m_isRefreshQueued = false;
     Choices m_announced;
     CategoryListModel m_categories;
     ItemListModel m_items;
-    SelectedItemsModel m_selectedItems;
+    ItemListModel m_selectedItems;
     LogLinesModel m_deletionLog;
     MotionPreference m_motion;
     ChangePublisher<ScanResult::Field>::Subscription m_subscription;

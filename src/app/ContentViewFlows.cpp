@@ -87,6 +87,7 @@ QCoro::Task<> ContentView::performDeletion() {
 
 std::vector<DiskItem> ContentView::itemsToDelete() const {
     std::vector<DiskItem> selected;
+    selected.reserve(m_scanResult.selectedCount());
     std::ranges::copy_if(m_scanResult.items.get(), std::back_inserter(selected),
                          &DiskItem::isSelected);
     return selected;

@@ -9,43 +9,42 @@ namespace drossbin {
 
 ItemListModel::ItemListModel(ScanResult& result, QObject* parent)
     : QAbstractListModel(parent)
-    , m_result(result)
-    , m_rows(result) {}
+    , m_result(result) {}
 
 int ItemListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : m_rows.count();
+    return parent.isValid() ? 0 : static_cast<int>(m_items.size());
 }
 
 QVariant ItemListModel::data(const QModelIndex& index, int role) const {
-    const DiskItem* const item = m_rows.at(index.row());
-    if (item == nullptr) {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
     }
+    const DiskItem& item = m_items[static_cast<std::size_t>(index.row())];
     switch (role) {
     case NameRole:
-        return displayQString(item->name);
+        return displayQString(item.name);
     case PathRole:
-        return displayQString(item->path);
+        return displayQString(item.path);
     case SymbolRole:
-        return toQString(item->sfSymbol);
+        return toQString(item.sfSymbol);
     case HasNoteRole:
-        return item->safetyNote.has_value();
+        return item.safetyNote.has_value();
     case NoteRole:
-        return toQString(item->safetyNote.value_or(""));
+        return toQString(item.safetyNote.value_or(""));
     case RiskColorRole:
-        return toQString(color(item->risk));
+        return toQString(color(item.risk));
     case RiskLabelRole:
-        return toQString(label(item->risk));
+        return toQString(label(item.risk));
     case RiskSymbolRole:
-        return toQString(icon(item->risk));
+        return toQString(icon(item.risk));
     case DateTextRole:
-        return toQString(item->formattedDate());
+        return toQString(item.formattedDate());
     case SizeTextRole:
-        return toQString(item->formattedSize());
+        return toQString(item.formattedSize());
     case IsSelectedRole:
-        return item->isSelected;
+        return item.isSelected;
     case IsProtectedRole:
-        return item->risk == RiskLevel::critical;
+        return item.risk == RiskLevel::critical;
     default:
         return {};
     }
@@ -68,54 +67,65 @@ QHash<int, QByteArray> ItemListModel::roleNames() const {
     };
 }
 
-void ItemListModel::refresh(const ItemSurvey& survey) {
-    if (m_rows.are(survey.list, survey.rows)) {
-        announceChangesSince(std::exchange(m_isSelected, survey.areRowsSelected));
-        return;
+void ItemListModel::refresh(std::vector<DiskItem> items) {
+    if (shows(items)) {
+        announceSelectionSince(std::exchange(m_items, std::move(items)));
+    } else {
+        replaceItems(std::move(items));
     }
-    const int last = m_rows.count();
-    const int next = static_cast<int>(survey.rows.size());
+}
+
+void ItemListModel::restart(std::vector<DiskItem> items) {
+    if (!shows(items)) {
+        beginResetModel();
+        m_items = std::move(items);
+        endResetModel();
+    }
+}
+
+bool ItemListModel::shows(const std::vector<DiskItem>& items) const {
+    return std::ranges::equal(items, m_items, {}, &DiskItem::id, &DiskItem::id);
+}
+
+void ItemListModel::replaceItems(std::vector<DiskItem> items) {
+    const int last = rowCount();
+    const int next = static_cast<int>(items.size());
     if (next < last) {
         beginRemoveRows({}, next, last - 1);
-        replaceRows(survey);
+        m_items = std::move(items);
         endRemoveRows();
     } else if (next > last) {
         beginInsertRows({}, last, next - 1);
-        replaceRows(survey);
+        m_items = std::move(items);
         endInsertRows();
     } else {
-        replaceRows(survey);
+        m_items = std::move(items);
     }
     if (const int kept = std::min(last, next); kept > 0) {
         emit dataChanged(index(0), index(kept - 1));
     }
 }
 
-void ItemListModel::replaceRows(const ItemSurvey& survey) {
-    m_rows.replace(survey.list, survey.rows);
-    m_isSelected = survey.areRowsSelected;
-}
-
-void ItemListModel::toggle(int row) {
-    if (const DiskItem* const item = m_rows.at(row)) {
-        m_result.toggleSelectionFor(*item);
-    }
-}
-
-void ItemListModel::announceChangesSince(const std::vector<bool>& last) {
+void ItemListModel::announceSelectionSince(const std::vector<DiskItem>& last) {
     const auto differs = [&](int row) {
         const auto at = static_cast<std::size_t>(row);
-        return last[at] != m_isSelected[at];
+        return last[at].isSelected != m_items[at].isSelected;
     };
-    for (int row = 0; row < m_rows.count(); ++row) {
+    for (int row = 0; row < rowCount(); ++row) {
         if (!differs(row)) {
             continue;
         }
         const int first = row;
-        while (row + 1 < m_rows.count() && differs(row + 1)) {
+        while (row + 1 < rowCount() && differs(row + 1)) {
             ++row;
         }
         emit dataChanged(index(first), index(row), {IsSelectedRole});
+    }
+}
+
+void ItemListModel::toggle(int row) {
+    if (hasIndex(row, 0)) {
+        m_result.toggleSelectionFor(m_items[static_cast<std::size_t>(row)]);
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/ItemRows.h"
+#include "model/ScanResult.h"
 
 #include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
@@ -9,8 +9,9 @@
 
 namespace drossbin {
 
-/// The rows of the category shown. A change of the selection touches only the rows selected or
-/// deselected, so that the list keeps its place; texts are made for the rows that are looked at.
+/// A list of items, each row a copy of its own. A change of the selection touches only the rows
+/// selected or deselected, so that the list keeps its place; texts are made for the rows that are
+/// looked at.
 class ItemListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -38,20 +39,24 @@ class ItemListModel : public QAbstractListModel {
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    /// Shows the survey's rows and their selection. Rows that stay get other items, which costs a
-    /// view a tenth of building them anew.
-    void refresh(const ItemSurvey& survey);
+    /// The same items may be selected otherwise. Where there are others, rows that stay get those,
+    /// which costs a view a tenth of building them anew.
+    void refresh(std::vector<DiskItem> items);
 
-    /// Flips the selection of the row's item; does nothing for a protected one.
+    /// Other items are shown anew, from the top; the same ones stay as they are.
+    void restart(std::vector<DiskItem> items);
+
+    /// Flips the selection of the row's item; does nothing for a protected one, or one that the
+    /// session no longer has.
     Q_INVOKABLE void toggle(int row);
 
   private:
-    void replaceRows(const ItemSurvey& survey);
-    void announceChangesSince(const std::vector<bool>& last);
+    [[nodiscard]] bool shows(const std::vector<DiskItem>& items) const;
+    void replaceItems(std::vector<DiskItem> items);
+    void announceSelectionSince(const std::vector<DiskItem>& last);
 
     ScanResult& m_result;
-    ItemRows m_rows;
-    std::vector<bool> m_isSelected;
+    std::vector<DiskItem> m_items;
 };
 
 } // namespace drossbin

@@ -31,14 +31,14 @@ void describeProgress(const ScanResult& result, Snapshot& snapshot) {
 }
 
 void describeSelection(const ItemSurvey& survey, Snapshot& snapshot) {
-    const std::size_t count = survey.selected.size();
     snapshot.totalSummary = QStringLiteral("%1 items found · %2 total")
-                                .arg(countText(survey.list.count), sizeText(survey.totalSize));
-    snapshot.hasSelection = count > 0;
+                                .arg(countText(survey.count), sizeText(survey.totalSize));
+    snapshot.hasSelection = survey.selectedCount > 0;
     snapshot.selectedSizeText = sizeText(survey.selectedSize);
-    snapshot.selectionSummary = itemsAndSizeText(count, survey.selectedSize);
+    snapshot.selectionSummary = itemsAndSizeText(survey.selectedCount, survey.selectedSize);
     snapshot.deleteLabel = QStringLiteral("Delete ") + snapshot.selectedSizeText;
-    snapshot.confirmationTitle = QStringLiteral("Delete %1 items?").arg(countText(count));
+    snapshot.confirmationTitle =
+        QStringLiteral("Delete %1 items?").arg(countText(survey.selectedCount));
     snapshot.hasBrowserData = survey.hasBrowserData;
 }
 

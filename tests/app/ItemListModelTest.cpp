@@ -236,14 +236,31 @@ TEST_F(ItemList, shows_another_category_when_one_is_chosen) {
     EXPECT_THAT(names(), ElementsAre("b"));
 }
 
-TEST_F(ItemList, has_no_items_for_its_rows_between_a_new_list_and_the_refresh) {
+TEST_F(ItemList, shows_its_rows_until_the_refresh_and_toggles_none_of_a_list_that_is_gone) {
     show({item("a", 9), item("b", 8)});
-    view.scanResult().items = {item("c", 7), item("d", 6)};
-    EXPECT_EQ(at(0, "name"), QVariant());
+    view.scanResult().items = {item("c", 7)};
+    EXPECT_THAT(names(), ElementsAre("a", "b"));
     model.toggle(0);
+    model.toggle(1);
     EXPECT_EQ(view.scanResult().selectedCount(), 0);
     test::turn();
-    EXPECT_THAT(names(), ElementsAre("c", "d"));
+    EXPECT_THAT(names(), ElementsAre("c"));
+}
+
+TEST_F(ItemList, toggles_the_item_that_the_row_shows_wherever_it_lies_in_the_list) {
+    show({item("a", 9), item("b", 8)});
+    view.scanResult().items.modify([](auto& items) { std::swap(items[0], items[1]); });
+    model.toggle(0);
+    EXPECT_EQ(view.scanResult().items.get()[1].name, "a");
+    EXPECT_TRUE(view.scanResult().items.get()[1].isSelected);
+    EXPECT_FALSE(view.scanResult().items.get()[0].isSelected);
+}
+
+TEST_F(ItemList, shows_another_list_of_the_same_names_anew) {
+    show({item("a", 9), item("b", 8)});
+    changed.clear();
+    show({item("a", 9), item("b", 8)});
+    EXPECT_THAT(changes(changed, model), ElementsAre("0-1:"));
 }
 
 } // namespace

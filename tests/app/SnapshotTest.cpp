@@ -17,7 +17,7 @@ constexpr std::int64_t terabyte = 1'000'000'000'000;
 struct SnapshotOf : ::testing::Test {
     [[nodiscard]] Snapshot take(std::optional<DiskCategory> shown = {},
                                 std::int64_t diskSpace = terabyte) const {
-        return Snapshot::of(result, ItemSurveyor().survey(result, shown), shown, diskSpace);
+        return Snapshot::of(result, ItemSurvey::of(result, shown), shown, diskSpace);
     }
 
     ScanResult result;

@@ -16,6 +16,8 @@ using ::testing::ElementsAre;
 using enum DiskCategory;
 
 struct SelectedItems : ::testing::Test {
+    SelectedItems() { view.requestDeletion(); }
+
     void show(std::vector<DiskItem> items) {
         view.scanResult().items = std::move(items);
         test::turn();
@@ -34,7 +36,7 @@ struct SelectedItems : ::testing::Test {
     }
 
     ContentView view{servicesThatFind({})};
-    SelectedItemsModel& model = *view.selectedItems();
+    ItemListModel& model = *view.selectedItems();
     QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
@@ -94,6 +96,32 @@ TEST_F(SelectedItems, keep_their_rows_when_nothing_that_they_show_changes) {
     view.setSearchText("b");
     test::turn();
     EXPECT_EQ(reset.count(), 0);
+}
+
+TEST_F(SelectedItems, are_shown_from_the_top_when_they_change) {
+    show({selected(item("a", 2)), item("b", 1)});
+    const QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    const QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    view.smartSelect();
+    test::turn();
+    EXPECT_EQ(reset.count(), 1);
+    EXPECT_EQ(inserted.count(), 0);
+}
+
+TEST_F(SelectedItems, are_read_when_the_confirmation_comes_and_stay_while_it_leaves) {
+    view.cancelDeletion();
+    show({selected(item("a", 2)), selected(item("b", 1))});
+    EXPECT_EQ(model.rowCount(), 0);
+    view.requestDeletion();
+    test::turn();
+    EXPECT_THAT(names(), ElementsAre("a", "b"));
+    view.cancelDeletion();
+    view.clearSelection();
+    test::turn();
+    EXPECT_THAT(names(), ElementsAre("a", "b"));
+    view.requestDeletion();
+    test::turn();
+    EXPECT_EQ(model.rowCount(), 0);
 }
 
 } // namespace
