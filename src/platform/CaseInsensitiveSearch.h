@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/CaseFolding.h"
+#include "platform/Locale.h"
 
 #include <memory>
 #include <string_view>
@@ -14,23 +14,14 @@ class CaseInsensitiveSearch {
   public:
     explicit CaseInsensitiveSearch(std::string_view pattern,
                                    const Locale& locale = Locale::current());
-    ~CaseInsensitiveSearch();
-
-    CaseInsensitiveSearch(const CaseInsensitiveSearch&) = delete;
-    CaseInsensitiveSearch& operator=(const CaseInsensitiveSearch&) = delete;
-    CaseInsensitiveSearch(CaseInsensitiveSearch&&) noexcept;
-    CaseInsensitiveSearch& operator=(CaseInsensitiveSearch&&) noexcept;
 
     /// Whether `text` contains the pattern. Bytes that are no UTF-8 count as U+FFFD. An empty
     /// pattern is found in nothing.
     [[nodiscard]] bool isFoundIn(std::string_view text) const;
 
-    /// The same for a text that was folded before, by the rules of the same locale.
-    [[nodiscard]] bool isFoundIn(FoldedText text) const;
-
   private:
     struct Pattern;
-    std::unique_ptr<const Pattern> m_pattern;
+    std::shared_ptr<const Pattern> m_pattern;
 };
 
 } // namespace drossbin
