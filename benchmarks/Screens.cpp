@@ -107,5 +107,5 @@ int main(int argc, char** argv) {
             measure(interaction, window, watch, std::atoi(argv[2]));
         }
     }
-    std::_Exit(EXIT_SUCCESS); // the end of a million items is of no interest
+    std::_Exit(EXIT_SUCCESS); // the end of the session is of no interest
 }

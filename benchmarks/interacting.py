@@ -8,7 +8,7 @@ from desktop import Desktop
 from starting import SOFTWARE
 
 # items of the session, and what must not be exceeded
-SESSIONS = ((100_000, {"median": 16, "maximum": 50}), (1_000_000, {"maximum": 200}))
+SESSIONS = ((10_000, {"median": 8, "maximum": 16}), (100_000, {"median": 33, "maximum": 100}))
 RUNS = 20
 
 
