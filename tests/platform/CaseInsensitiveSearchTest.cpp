@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <string>
 
 namespace drossbin {
@@ -18,6 +19,17 @@ TEST(CaseInsensitiveSearch, finds_letters_of_either_case) {
     EXPECT_TRUE(finds("CHROME", "com.google.Chrome"));
     EXPECT_TRUE(finds("chrome", "COM.GOOGLE.CHROME"));
     EXPECT_FALSE(finds("chromium", "com.google.Chrome"));
+}
+
+TEST(CaseInsensitiveSearch, takes_the_letters_of_ascii_for_alike_and_none_of_its_other_characters) {
+    for (char one = 0; one < '\x7F'; ++one) {
+        const CaseInsensitiveSearch search(std::string(1, one), english);
+        for (char other = 0; other < '\x7F'; ++other) {
+            EXPECT_EQ(search.isFoundIn(std::string(1, other)),
+                      std::tolower(one) == std::tolower(other))
+                << one << " in " << other;
+        }
+    }
 }
 
 TEST(CaseInsensitiveSearch, finds_at_the_start_the_end_and_as_a_whole) {
