@@ -1,25 +1,15 @@
 #include "platform/FolderStack.h"
 
+#include "platform/DescriptorBudget.h"
+
 #include <algorithm>
-#include <sys/resource.h>
+#include <sys/stat.h>
 #include <utility>
 
 namespace drossbin {
 
-namespace {
-
-/// Enough for the trees that people have, and little enough for a crew of threads.
-std::size_t mostOpenLevels() {
-    rlimit limit{};
-    const bool known = ::getrlimit(RLIMIT_NOFILE, &limit) == 0;
-    return std::clamp<std::size_t>(known ? limit.rlim_cur / 64 : 0, 3, 16);
-}
-
-} // namespace
-
-FolderStack::FolderStack(Measurement& measurement)
-    : m_measurement(measurement)
-    , m_mostOpen(mostOpenLevels()) {}
+FolderStack::FolderStack()
+    : m_mostOpen(DescriptorBudget::ofThisProcess().openLevels) {}
 
 void FolderStack::enter(OpenFolder folder) {
     const std::size_t depth = isEmpty() ? 0 : m_levels.back().depth + 1;
@@ -71,10 +61,10 @@ FileDescriptor FolderStack::openAbove(int folder, std::size_t distance) {
         for (std::size_t level = 0; level < levels; ++level) {
             path += "../";
         }
-        above = m_measurement.open(above.isOpen() ? above.get() : folder, path.c_str(),
-                                   LastLink::refused);
+        above = openFolder(above.isOpen() ? above.get() : folder, path.c_str(), LastLink::refused);
         distance -= levels;
     } while (distance > 0 && above.isOpen());
+    m_lacksDescriptors |= !above.isOpen() && drossbin::lacksDescriptors();
     return above;
 }
 
@@ -108,7 +98,7 @@ OpenFolder FolderStack::openAgain(const OpenFolder& folder) {
     return {openFolder(folder.get(), ".", LastLink::refused), folder.identity};
 }
 
-std::optional<FolderStack::Share> FolderStack::split() {
+std::optional<Subtree> FolderStack::split() {
     const auto giver =
         std::find_if(m_levels.begin() + std::ptrdiff_t(m_uppermostOpen), m_levels.end(),
                      [](const Level& level) { return level.hasNames(); });
@@ -125,9 +115,9 @@ std::optional<FolderStack::Share> FolderStack::split() {
     if (!folder.isOpen()) {
         return std::nullopt;
     }
-    Share share{std::move(folder), m_names.substr(giver->firstName, end - giver->firstName)};
+    Subtree half{std::move(folder), {}, m_names.substr(giver->firstName, end - giver->firstName)};
     giver->firstName = end;
-    return share;
+    return half;
 }
 
 } // namespace drossbin

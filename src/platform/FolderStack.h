@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/DirectoryReader.h"
-#include "platform/Measurement.h"
 #include "platform/OpenFolder.h"
+#include "platform/Subtree.h"
 
 #include <cstddef>
 #include <optional>
@@ -17,7 +17,7 @@ namespace drossbin {
 /// the uppermost are closed; ".." leads back to them from below, so no path is ever needed.
 class FolderStack {
   public:
-    explicit FolderStack(Measurement& measurement);
+    FolderStack();
 
     [[nodiscard]] bool isEmpty() const { return m_levels.empty(); }
 
@@ -53,15 +53,12 @@ class FolderStack {
     /// Closes the uppermost open level, unless that is the deepest.
     bool closeUppermost();
 
-    /// Subfolders that were taken away from a level, for another walk to enter.
-    struct Share {
-        OpenFolder folder;
-        std::string names; ///< each ended by a null byte
-    };
-
     /// Takes half of the subfolders of the uppermost open level that has some: the largest part
     /// that there is to give. Absent when that would leave nothing to do here.
-    std::optional<Share> split();
+    std::optional<Subtree> split();
+
+    /// Whether work was lost because the process may open no more files.
+    [[nodiscard]] bool lacksDescriptors() const { return m_lacksDescriptors; }
 
   private:
     struct Level {
@@ -80,11 +77,11 @@ class FolderStack {
     bool reopen(Level& level, const Level& below);
     FileDescriptor openAbove(int folder, std::size_t distance);
 
-    Measurement& m_measurement;
     std::vector<Level> m_levels;
     std::string m_names; ///< those of the deepest level are the last
     std::size_t m_uppermostOpen = 0;
     std::size_t m_mostOpen;
+    bool m_lacksDescriptors = false;
 };
 
 } // namespace drossbin

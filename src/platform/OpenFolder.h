@@ -20,10 +20,6 @@ enum class LastLink : bool { followed, refused };
 /// or a device would wait, or act. Not open on failure, with the reason in errno.
 FileDescriptor openFolder(int parent, const char* name, LastLink link);
 
-/// The same, but waits a while for the rest of the program to close something when the process may
-/// open no more files.
-FileDescriptor openFolderPatiently(int parent, const char* name, LastLink link);
-
 /// Whether errno says that the process, or the system, may open no more files.
 [[nodiscard]] bool lacksDescriptors();
 

@@ -1,7 +1,7 @@
 #include "platform/TreeWalk.h"
 
 #include "platform/CheckedSum.h"
-#include "platform/WalkCrew.h"
+#include "platform/MeasuringPool.h"
 
 #include <cstring>
 #include <fcntl.h>
@@ -28,26 +28,22 @@ std::int64_t TreeWalk::sizeBelow(OpenFolder folder) {
     return m_size;
 }
 
-std::int64_t TreeWalk::sizeOf(Parcel parcel) {
-    m_stack.enter(std::move(parcel.folder));
+std::int64_t TreeWalk::sizeOf(Subtree subtree) {
+    m_stack.enter(std::move(subtree.folder));
     m_stack.unread().reset();
-    const std::string_view names = parcel.subfolders;
+    const std::string_view names = subtree.subfolders;
     for (std::size_t start = 0; start < names.size();) {
         const std::size_t end = names.find('\0', start);
         m_stack.addSubfolder(names.substr(start, end - start));
         start = end + 1;
     }
-    measure(parcel.entries);
+    measure(subtree.entries);
     walk();
     return m_size;
 }
 
-std::int64_t TreeWalk::sizeGivenAway() {
-    return m_crew != nullptr ? m_crew->finish(m_measurement) : 0;
-}
-
 void TreeWalk::walk() {
-    while (!m_stack.isEmpty() && !m_measurement.isGivenUp()) {
+    while (!m_stack.isEmpty() && !isGivenUp()) {
         if (m_stack.hasSubfolders()) {
             enterLastSubfolder();
         } else if (m_stack.unread()) {
@@ -55,6 +51,20 @@ void TreeWalk::walk() {
         } else {
             m_stack.leave();
         }
+        if (m_stack.lacksDescriptors()) {
+            giveUp();
+        }
+    }
+}
+
+bool TreeWalk::isGivenUp() const {
+    return m_pool != nullptr && m_pool->isGivenUp();
+}
+
+// A walk that is alone goes on without what it could not open.
+void TreeWalk::giveUp() {
+    if (m_pool != nullptr) {
+        m_pool->giveUp();
     }
 }
 
@@ -77,8 +87,8 @@ void TreeWalk::readOn() {
 void TreeWalk::measure(DirectoryBlock& entries) {
     while (const auto entry = entries.next()) {
         measure(*entry);
-        if (--m_untilStock == 0) {
-            takeStock();
+        if (--m_untilSharing == 0) {
+            shareWork();
         }
     }
 }
@@ -121,36 +131,36 @@ FileDescriptor TreeWalk::openSubfolder(const char* name) {
         folder = openFolder(m_stack.folder(), name, LastLink::refused);
     }
     if (!folder.isOpen() && lacksDescriptors()) {
-        folder = m_measurement.open(m_stack.folder(), name, LastLink::refused);
+        giveUp();
     }
     return folder;
 }
 
-void TreeWalk::takeStock() {
-    m_untilStock = stretch;
-    m_crew = m_measurement.crew;
-    if (m_crew == nullptr) {
+void TreeWalk::shareWork() {
+    m_untilSharing = stretch;
+    m_isLarge = true;
+    if (m_pool == nullptr) {
         return;
     }
-    m_crew->suit(m_pace.hasWaited());
-    if (m_crew->wantsWork()) {
-        if (auto share = m_stack.split()) {
-            m_crew->give({std::move(share->folder), {}, std::move(share->names)}, m_measurement);
-            m_pace.restart(); // to wait for the crew is not to wait for the disk
+    m_pool->adjust(m_pace.hasWaited());
+    if (m_pool->wantsWork()) {
+        if (auto half = m_stack.split()) {
+            m_pool->give(std::move(*half));
+            m_pace.restart(); // to wait for the pool is not to wait for the disk
         }
     }
 }
 
 bool TreeWalk::giveAway(DirectoryBlock& entries) {
-    const bool isLarge = entries.bytesLeft() >= DirectoryBlock::capacity / 2;
-    if (!isLarge || m_crew == nullptr || !m_crew->wantsWork()) {
+    const bool isWorthIt = m_isLarge && entries.bytesLeft() >= DirectoryBlock::capacity / 2;
+    if (!isWorthIt || m_pool == nullptr || !m_pool->wantsWork()) {
         return false;
     }
     OpenFolder folder = m_stack.openFolderAgain();
     if (!folder.isOpen()) {
         return false;
     }
-    m_crew->give({std::move(folder), std::move(entries), {}}, m_measurement);
+    m_pool->give({std::move(folder), std::move(entries), {}});
     return true;
 }
 

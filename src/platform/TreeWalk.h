@@ -2,39 +2,30 @@
 
 #include "platform/DirectoryReader.h"
 #include "platform/FolderStack.h"
-#include "platform/Measurement.h"
 #include "platform/OpenFolder.h"
+#include "platform/Subtree.h"
 #include "platform/ThreadPace.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
 
 namespace drossbin {
 
-/// A part of a tree that one thread takes on: entries of one folder and all that is below them.
-struct Parcel {
-    OpenFolder folder;
-    DirectoryBlock entries; ///< to be measured
-    std::string subfolders; ///< to be entered: names, each ended by a null byte
-};
+class MeasuringPool;
 
 /// One thread's walk through its part of a tree. Once it proves large, it gives parts away as
-/// long as the crew wants some.
+/// long as the pool wants some.
 class TreeWalk {
   public:
-    explicit TreeWalk(Measurement& measurement)
-        : m_measurement(measurement)
-        , m_stack(measurement) {}
+    /// With the help of `pool`, or alone where that is null.
+    explicit TreeWalk(MeasuringPool* pool)
+        : m_pool(pool) {}
 
     /// The sum of the sizes of everything below `folder`, less what was given away.
     std::int64_t sizeBelow(OpenFolder folder);
 
-    /// The same for a parcel that another walk gave away.
-    std::int64_t sizeOf(Parcel parcel);
-
-    /// The size of all that was given away, by this walk and those that took it. Waits for it.
-    std::int64_t sizeGivenAway();
+    /// The same for what another walk gave away.
+    std::int64_t sizeOf(Subtree subtree);
 
   private:
     void walk();
@@ -44,11 +35,13 @@ class TreeWalk {
     void enterLastSubfolder();
     FileDescriptor openSubfolder(const char* name);
 
-    void takeStock();
+    [[nodiscard]] bool isGivenUp() const;
+    void giveUp();
+    void shareWork();
     bool giveAway(DirectoryBlock& entries);
 
-    Measurement& m_measurement;
-    WalkCrew* m_crew = nullptr; ///< absent until the walk proves large
+    MeasuringPool* m_pool;
+    bool m_isLarge = false;
     FolderStack m_stack;
     DirectoryBlock m_entries;
     std::int64_t m_size = 0;
@@ -57,7 +50,7 @@ class TreeWalk {
     /// to give away than to do.
     static constexpr std::size_t firstStretch = 256;
     static constexpr std::size_t stretch = 128;
-    std::size_t m_untilStock = firstStretch;
+    std::size_t m_untilSharing = firstStretch;
     ThreadPace m_pace;
 };
 

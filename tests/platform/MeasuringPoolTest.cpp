@@ -1,4 +1,4 @@
-#include "platform/WalkCrew.h"
+#include "platform/MeasuringPool.h"
 
 #include "platform/TreeSize.h"
 #include "support/HostileTrees.h"
@@ -8,7 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <memory>
+#include <sched.h>
 #include <string>
 #include <sys/stat.h>
 
@@ -31,9 +33,9 @@ std::int64_t makeTrees(const ScratchFolder& scratch) {
 }
 
 /// Made while the process may still open many files. Never destroyed, as its threads never end.
-WalkCrew* crewOf16Cores() {
-    static WalkCrew* const crew = std::make_unique<WalkCrew>(16).release();
-    return crew;
+MeasuringPool* poolOf16Cores() {
+    static MeasuringPool* const pool = std::make_unique<MeasuringPool>(16).release();
+    return pool;
 }
 
 /// Measures on so many threads at once while the process may have so many files open, 30 of which
@@ -41,35 +43,60 @@ WalkCrew* crewOf16Cores() {
 void expectExact(int threads, rlim_t descriptors) {
     const ScratchFolder scratch;
     const std::int64_t size = makeTrees(scratch);
-    WalkCrew* const crew = crewOf16Cores();
+    MeasuringPool* const pool = poolOf16Cores();
     const test::FewDescriptors few(descriptors);
     test::onThreads(threads, [&] {
         for (int round = 0; round < 10; ++round) {
-            EXPECT_EQ(treeSize(scratch.path(), crew), size);
+            EXPECT_EQ(treeSize(scratch.path(), pool), size);
         }
     });
 }
 
-TEST(WalkCrewOf16Cores, is_exact_with_64_descriptors) {
+TEST(MeasuringPoolOf16Cores, is_exact_with_64_descriptors) {
     expectExact(1, 64);
 }
 
-TEST(WalkCrewOf16Cores, is_exact_with_40_descriptors) {
+TEST(MeasuringPoolOf16Cores, is_exact_with_40_descriptors) {
     expectExact(1, 40);
 }
 
-TEST(WalkCrewOf16Cores, is_exact_with_64_descriptors_for_several_walks) {
+TEST(MeasuringPoolOf16Cores, is_exact_with_64_descriptors_for_several_walks) {
     expectExact(6, 64);
 }
 
-TEST(WalkCrewOf16Cores, is_exact_with_40_descriptors_for_several_walks) {
+TEST(MeasuringPoolOf16Cores, is_exact_with_40_descriptors_for_several_walks) {
     expectExact(6, 40);
 }
 
 // Each of these walks holds a descriptor already when it lacks the next one.
-TEST(WalkCrewOf16Cores, is_exact_for_more_walks_than_there_are_descriptors) {
+TEST(MeasuringPoolOf16Cores, is_exact_for_more_walks_than_there_are_descriptors) {
     expectExact(20, 40);
 }
+
+#ifdef __linux__ // other systems do not tell
+
+cpu_set_t coresOf(pid_t thread) {
+    cpu_set_t cores{};
+    EXPECT_EQ(::sched_getaffinity(thread, sizeof(cores), &cores), 0);
+    return cores;
+}
+
+// Each helper leaves the core of the thread that started it, once and not for ever.
+TEST(MeasuringPoolOf16Cores, leaves_its_helpers_every_core) {
+    const ScratchFolder scratch;
+    const std::int64_t size = makeTrees(scratch);
+    ASSERT_EQ(treeSize(scratch.path(), poolOf16Cores()), size);
+    const cpu_set_t cores = coresOf(0);
+    int helpers = 0;
+    for (const auto& thread : std::filesystem::directory_iterator("/proc/self/task")) {
+        const cpu_set_t its = coresOf(std::stoi(thread.path().filename()));
+        EXPECT_TRUE(CPU_EQUAL(&its, &cores)) << thread.path();
+        ++helpers;
+    }
+    EXPECT_GT(helpers, 1);
+}
+
+#endif
 
 } // namespace
 } // namespace drossbin
