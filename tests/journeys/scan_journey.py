@@ -13,7 +13,9 @@ class Scan(Journey):
             program.press("list item", category)
             total = size_text(sum(map(measured, paths)))
             program.find("label", total)
-            self.assertEqual(program.find("list item", category).description, f"{len(paths)} items · {total}")
+            way_back = "Escape shows the overview of all categories"
+            self.assertEqual(program.find("list item", category).description,
+                             f"{len(paths)} items · {total}. {way_back}")
             largest_first = sorted(paths, key=measured, reverse=True)
             self.assertEqual(self.rows(program), [title(path) for path in largest_first])
             for path in paths:
