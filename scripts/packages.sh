@@ -22,6 +22,7 @@ package_list=(
   "test|fonts-droid-fallback fonts-tlwg-loma-ttf fonts-kacst-one||names in Chinese, Thai and Arabic on the screens"
   "test|fonts-lohit-deva fonts-lohit-beng-bengali||names in Devanagari and Bengali on the screens"
   "test|appstream desktop-file-utils||check what software centres read"
+  "test|librsvg2-bin||draw the icon in its sizes"
   "bench|libbenchmark-dev|google-benchmark|time single calls"
   "bench|ncdu gdu|ncdu gdu|compare with what people would use instead"
   "bench|filelight qdirstat baobab bleachbit stacer||compare how programs with a window start"
