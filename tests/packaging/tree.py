@@ -1,0 +1,51 @@
+"""What stands in several files of the tree has to be the same in all of them."""
+
+import os
+import re
+import sys
+import unittest
+from email.utils import parsedate_to_datetime
+from xml.etree import ElementTree
+
+VERSION = sys.argv.pop()
+TREE = sys.argv.pop()
+SVG = "{http://www.w3.org/2000/svg}"
+
+
+def text(path):
+    with open(os.path.join(TREE, path), encoding="utf-8") as file:
+        return file.read()
+
+
+class Releases(unittest.TestCase):
+    """The version stands in CMakeLists.txt; the histories have to begin with it, on the same day."""
+
+    def test_the_changelog_begins_with_the_version(self):
+        self.assertEqual(self.changelog()[0], VERSION)
+
+    def test_the_store_metadata_begins_with_it_on_the_same_day(self):
+        metadata = ElementTree.fromstring(text("packaging/linux/org.drossbin.Drossbin.metainfo.xml"))
+        newest = metadata.find("releases/release")
+        self.assertEqual((newest.get("version"), newest.get("date")), self.changelog())
+
+    def test_the_changelog_of_debian_begins_with_it_on_the_same_day(self):
+        history = text("packaging/linux/changelog")
+        version = re.match(r"drossbin \((.*)\)", history)[1]
+        day = parsedate_to_datetime(re.search(r"^ -- .*>  (.*)$", history, re.MULTILINE)[1]).date()
+        self.assertEqual((version, day.isoformat()), self.changelog())
+
+    def changelog(self):
+        return re.search(r"^## \[(\d+\.\d+\.\d+)\] - (.*)$", text("CHANGELOG.md"), re.MULTILINE).groups()
+
+
+class Icons(unittest.TestCase):
+    def test_hold_nothing_that_a_desktop_may_not_draw(self):
+        allowed = {"svg", "defs", "linearGradient", "stop", "g", "path", "rect"}
+        for name in ("org.drossbin.Drossbin", "drossbin-16", "drossbin-24", "drossbin-32"):
+            drawing = ElementTree.fromstring(text(f"packaging/icons/{name}.svg"))
+            used = {element.tag.removeprefix(SVG) for element in drawing.iter()}
+            self.assertEqual(used - allowed, set(), name)
+
+
+if __name__ == "__main__":
+    unittest.main()
