@@ -1,6 +1,7 @@
 """What stands in several files of the tree has to be the same in all of them."""
 
 import os
+import plistlib
 import re
 import sys
 import unittest
@@ -45,6 +46,13 @@ class Icons(unittest.TestCase):
             drawing = ElementTree.fromstring(text(f"packaging/icons/{name}.svg"))
             used = {element.tag.removeprefix(SVG) for element in drawing.iter()}
             self.assertEqual(used - allowed, set(), name)
+
+
+class Bundle(unittest.TestCase):
+    def test_says_what_the_folders_of_the_user_are_read_for(self):
+        keys = plistlib.loads(text("packaging/macos/Info.plist.in").encode())
+        self.assertEqual(keys["CFBundleShortVersionString"], "@PROJECT_VERSION@")
+        self.assertRegex(keys["NSDownloadsFolderUsageDescription"], r"^Drossbin .*\.$")
 
 
 if __name__ == "__main__":
