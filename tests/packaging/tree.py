@@ -3,9 +3,11 @@
 import os
 import plistlib
 import re
+import subprocess
 import sys
 import unittest
 from email.utils import parsedate_to_datetime
+from urllib.parse import unquote
 from xml.etree import ElementTree
 
 VERSION = sys.argv.pop()
@@ -16,6 +18,13 @@ SVG = "{http://www.w3.org/2000/svg}"
 def text(path):
     with open(os.path.join(TREE, path), encoding="utf-8") as file:
         return file.read()
+
+
+def documents():
+    """The Markdown files of the tree, but for what is built."""
+    for folder, folders, files in os.walk(TREE):
+        folders[:] = [name for name in folders if name not in ("build", ".git")]
+        yield from (os.path.join(folder, name) for name in files if name.endswith(".md"))
 
 
 class Releases(unittest.TestCase):
@@ -53,6 +62,28 @@ class Bundle(unittest.TestCase):
         keys = plistlib.loads(text("packaging/macos/Info.plist.in").encode())
         self.assertEqual(keys["CFBundleShortVersionString"], "@PROJECT_VERSION@")
         self.assertRegex(keys["NSDownloadsFolderUsageDescription"], r"^Drossbin .*\.$")
+
+
+class Documents(unittest.TestCase):
+    def test_every_link_within_the_tree_leads_somewhere(self):
+        for document in documents():
+            with open(document, encoding="utf-8") as file:
+                targets = re.findall(r"\]\(([^)\s]+)\)", file.read())
+            for target in (unquote(target.split("#")[0]) for target in targets):
+                if target and not re.match(r"[a-z]+:", target):
+                    path = os.path.join(os.path.dirname(document), target)
+                    self.assertTrue(os.path.exists(path), f"{document}: {target}")
+
+    def test_all_that_the_guide_to_changes_names_is_there(self):
+        guide = text("docs/changing.md")
+        tests = subprocess.run(["grep", "-rh", "", os.path.join(TREE, "tests"), "--include=*.cpp", "--include=*.qml"],
+                               capture_output=True, text=True, check=True).stdout
+        files = {name for _, _, names in os.walk(os.path.join(TREE)) for name in names}
+        named = re.findall(r"`([^`]+)`", guide)
+        self.assertEqual([n for n in named if re.fullmatch(r"\w+\.(cpp|h|qml|py|svg)", n) and n not in files], [])
+        sentences = [n for n in named if re.fullmatch(r"[a-z0-9]+(_[a-z0-9]+){2,}", n)]
+        self.assertGreaterEqual(len(sentences), 10)
+        self.assertEqual([n for n in sentences if not re.search(rf"\b{n}\b", tests)], [])
 
 
 if __name__ == "__main__":
