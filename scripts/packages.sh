@@ -25,6 +25,7 @@ package_list=(
   "test|librsvg2-bin||draw the icon in its sizes"
   "package|librsvg2-bin|librsvg|draw the icon in its sizes"
   "package|dpkg-dev lintian||make a Debian package and check it"
+  "clean|debootstrap weston||try the package in a clean Debian, also on Wayland"
   "bench|libbenchmark-dev|google-benchmark|time single calls"
   "bench|ncdu gdu|ncdu gdu|compare with what people would use instead"
   "bench|filelight qdirstat baobab bleachbit stacer||compare how programs with a window start"
