@@ -35,6 +35,8 @@ void followTheUsersLocale() {
 int main(int argc, char** argv) {
     writeNoCaches();
     const QGuiApplication application(argc, argv);
+    // By it a Wayland desktop finds the window's icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.drossbin.Drossbin"));
     followTheUsersLocale();
     chooseRenderer();
     chooseTypeface();
