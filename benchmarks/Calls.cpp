@@ -1,5 +1,5 @@
 #include "model/DiskItem.h"
-#include "platform/ByteCountFormatter.h"
+#include "platform/words/ByteCountFormatter.h"
 #include "scanner/DiskScanner.h"
 #include "support/ScratchFolder.h"
 

@@ -2,7 +2,7 @@
 
 #include "app/BrowserWords.h"
 #include "model/ItemFilter.h"
-#include "platform/CheckedSum.h"
+#include "platform/basics/CheckedSum.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,8 +1,8 @@
 #include "app/Texts.h"
 
-#include "platform/ByteCountFormatter.h"
-#include "platform/DisplayText.h"
-#include "platform/IntegerFormatter.h"
+#include "platform/words/ByteCountFormatter.h"
+#include "platform/words/DisplayText.h"
+#include "platform/words/IntegerFormatter.h"
 
 namespace drossbin {
 

@@ -1,8 +1,8 @@
 #include "cleaner/DeletionLog.h"
 
-#include "platform/ByteCountFormatter.h"
-#include "platform/DisplayText.h"
-#include "platform/ISO8601DateFormatter.h"
+#include "platform/words/ByteCountFormatter.h"
+#include "platform/words/DisplayText.h"
+#include "platform/words/ISO8601DateFormatter.h"
 
 namespace drossbin::deletionlog {
 

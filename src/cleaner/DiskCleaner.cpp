@@ -1,9 +1,9 @@
 #include "cleaner/DiskCleaner.h"
 
 #include "cleaner/DeletionLog.h"
-#include "platform/CheckedSum.h"
 #include "platform/FileManager.h"
 #include "platform/MainThread.h"
+#include "platform/basics/CheckedSum.h"
 
 #include <cstddef>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/DiskItem.h"
-#include "platform/Date.h"
+#include "platform/basics/Date.h"
 
 #include <cstdint>
 #include <functional>

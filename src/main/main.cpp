@@ -1,6 +1,6 @@
 #include "app/EventLoop.h"
 #include "platform/BackgroundThread.h"
-#include "platform/Locale.h"
+#include "platform/words/Locale.h"
 #include "views/Renderer.h"
 #include "views/Typeface.h"
 

@@ -1,7 +1,7 @@
 #include "model/DiskItem.h"
 
-#include "platform/ByteCountFormatter.h"
-#include "platform/RelativeDateTimeFormatter.h"
+#include "platform/words/ByteCountFormatter.h"
+#include "platform/words/RelativeDateTimeFormatter.h"
 
 namespace drossbin {
 

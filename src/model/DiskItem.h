@@ -3,7 +3,7 @@
 #include "model/DiskCategory.h"
 #include "model/RiskLevel.h"
 #include "model/Uuid.h"
-#include "platform/Date.h"
+#include "platform/basics/Date.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/DiskItem.h"
-#include "platform/CaseInsensitiveSearch.h"
+#include "platform/search/CaseInsensitiveSearch.h"
 
 #include <string_view>
 

@@ -1,7 +1,7 @@
 #include "model/ScanResult.h"
 
 #include "model/ItemFilter.h"
-#include "platform/CheckedSum.h"
+#include "platform/basics/CheckedSum.h"
 
 #include <algorithm>
 

@@ -1,7 +1,8 @@
-#include "platform/FileDescriptor.h"
-#include "platform/FileManager.h"
-#include "platform/PathParts.h"
-#include "platform/SystemError.h"
+#include "platform/AtomicWrite.h"
+
+#include "platform/folders/FileDescriptor.h"
+#include "platform/folders/PathParts.h"
+#include "platform/folders/SystemError.h"
 
 #include <cstdio>
 #include <fcntl.h>
@@ -74,7 +75,7 @@ std::error_code replace(int folder, const std::string& newName, const std::strin
 // A name in the same folder and a rename, rather than a file without a name (O_TMPFILE): such a
 // file can be given a free name but cannot take the place of another, needs /proc, and not every
 // file system has it. The price is that a kill may leave a hidden file with the temporary name.
-std::error_code FileManager::writeAtomically(const std::string& text, const std::string& path) {
+std::error_code writeAtomically(const std::string& text, const std::string& path) {
     const PathParts target(path);
     const FileDescriptor folder(uninterrupted(
         [&] { return ::open(target.folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));

@@ -1,7 +1,7 @@
 #include "platform/BackgroundThread.h"
 
 #include "platform/MainThread.h"
-#include "platform/ThreadPriority.h"
+#include "platform/threads/ThreadPriority.h"
 
 #include <atomic>
 #include <cstddef>

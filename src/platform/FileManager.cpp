@@ -1,11 +1,14 @@
 #include "platform/FileManager.h"
 
-#include "platform/DirectoryReader.h"
-#include "platform/FileDescriptor.h"
-#include "platform/OpenFolder.h"
-#include "platform/PathParts.h"
-#include "platform/SystemError.h"
-#include "platform/TreeRemoval.h"
+#include "platform/AtomicWrite.h"
+#include "platform/folders/DirectoryReader.h"
+#include "platform/folders/FileDescriptor.h"
+#include "platform/folders/OpenFolder.h"
+#include "platform/folders/PathParts.h"
+#include "platform/folders/SystemError.h"
+#include "platform/measuring/MeasuringPool.h"
+#include "platform/measuring/TreeSize.h"
+#include "platform/removing/TreeRemoval.h"
 
 #include <array>
 #include <cstdlib>
@@ -154,6 +157,14 @@ std::error_code FileManager::removeItem(const std::string& path) {
     }
     const FileDescriptor parent(::open(item.folder.c_str(), searchOnly | O_DIRECTORY | O_CLOEXEC));
     return parent.isOpen() ? removeEntry(parent.get(), item.name) : lastSystemError();
+}
+
+std::optional<std::int64_t> FileManager::sizeOfFolderContents(const std::string& path) {
+    return treeSize(path, MeasuringPool::ofThisProcess());
+}
+
+std::error_code FileManager::writeAtomically(const std::string& text, const std::string& path) {
+    return drossbin::writeAtomically(text, path);
 }
 
 } // namespace drossbin

@@ -1,6 +1,6 @@
 #include "platform/MainThread.h"
 
-#include "platform/Stop.h"
+#include "platform/basics/Stop.h"
 
 #include <string>
 #include <thread>

@@ -1,7 +1,7 @@
 #include "scanner/DiskScanner.h"
 
-#include "platform/CheckedSum.h"
 #include "platform/FileManager.h"
+#include "platform/basics/CheckedSum.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,6 +1,6 @@
-#include "platform/Calendar.h"
 #include "platform/FileManager.h"
-#include "platform/RelativeDateTimeFormatter.h"
+#include "platform/words/Calendar.h"
+#include "platform/words/RelativeDateTimeFormatter.h"
 #include "scanner/DiskScanner.h"
 
 namespace drossbin {

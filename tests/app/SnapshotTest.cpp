@@ -1,7 +1,7 @@
 #include "app/Snapshot.h"
 
 #include "Session.h"
-#include "platform/Locale.h"
+#include "platform/words/Locale.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "app/EventLoop.h"
-#include "platform/Locale.h"
+#include "platform/words/Locale.h"
 
 #include <QGuiApplication>
 

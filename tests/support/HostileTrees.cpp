@@ -1,6 +1,6 @@
 #include "support/HostileTrees.h"
 
-#include "platform/FileDescriptor.h"
+#include "platform/folders/FileDescriptor.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/FileDescriptor.h"
+#include "platform/folders/FileDescriptor.h"
 
 #include <functional>
 #include <sys/resource.h>

@@ -1,6 +1,6 @@
 #include "support/PipesAndDevices.h"
 
-#include "platform/FileDescriptor.h"
+#include "platform/folders/FileDescriptor.h"
 
 #include <cerrno>
 #include <sys/socket.h>

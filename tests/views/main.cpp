@@ -2,7 +2,7 @@
 #include "HeldSession.h"
 #include "HeldTime.h"
 #include "app/EventLoop.h"
-#include "platform/Locale.h"
+#include "platform/words/Locale.h"
 #include "views/Typeface.h"
 
 #include <QFontDatabase>

@@ -1,0 +1,13 @@
+#include "platform/basics/Stop.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace drossbin {
+
+void stopProgram(std::string_view line) {
+    std::fprintf(stderr, "drossbin: %.*s\n", static_cast<int>(line.size()), line.data());
+    std::abort();
+}
+
+} // namespace drossbin

@@ -1,0 +1,18 @@
+#include "platform/folders/OpenFolder.h"
+
+#include <cerrno>
+#include <fcntl.h>
+
+namespace drossbin {
+
+FileDescriptor openFolder(int parent, const char* name, LastLink link) {
+    const int flags = O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC;
+    const int linkFlag = link == LastLink::refused ? O_NOFOLLOW : 0;
+    return FileDescriptor(::openat(parent, name, flags | linkFlag));
+}
+
+bool lacksDescriptors() {
+    return errno == EMFILE || errno == ENFILE;
+}
+
+} // namespace drossbin

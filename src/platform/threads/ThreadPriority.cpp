@@ -1,0 +1,21 @@
+#include "platform/threads/ThreadPriority.h"
+
+#ifdef __APPLE__
+#include <pthread.h>
+#elif defined(__linux__)
+#include <sys/resource.h>
+#endif
+
+namespace drossbin {
+
+void goAfterOthers() {
+#ifdef __APPLE__
+    ::pthread_set_qos_class_self_np(QOS_CLASS_UTILITY, 0);
+#elif defined(__linux__)
+    // Here the nice value is each thread's own. Ten more leave it a tenth of what the window gets.
+    // The system keeps it within its bounds.
+    ::setpriority(PRIO_PROCESS, 0, ::getpriority(PRIO_PROCESS, 0) + 10);
+#endif
+}
+
+} // namespace drossbin
