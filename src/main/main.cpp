@@ -2,7 +2,7 @@
 #include "platform/BackgroundThread.h"
 #include "platform/words/Locale.h"
 #include "views/Renderer.h"
-#include "views/Typeface.h"
+#include "views/texts/Typeface.h"
 
 #include <QGuiApplication>
 #include <QLocale>

@@ -3,7 +3,7 @@
 #include "HeldTime.h"
 #include "app/EventLoop.h"
 #include "platform/words/Locale.h"
-#include "views/Typeface.h"
+#include "views/texts/Typeface.h"
 
 #include <QFontDatabase>
 #include <QQmlEngine>

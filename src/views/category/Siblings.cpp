@@ -1,0 +1,16 @@
+#include "views/category/Siblings.h"
+
+namespace drossbin {
+
+void Siblings::put(QQuickItem* item, const QQuickItem* previous, const QQuickItem* next) {
+    if (item == nullptr) {
+        return;
+    }
+    if (previous != nullptr && previous != item) {
+        item->stackAfter(previous);
+    } else if (next != nullptr && next != item) {
+        item->stackBefore(next);
+    }
+}
+
+} // namespace drossbin

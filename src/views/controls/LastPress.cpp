@@ -1,0 +1,40 @@
+#include "views/controls/LastPress.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+namespace drossbin {
+namespace {
+
+bool isModifier(int key) {
+    return key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock;
+}
+
+} // namespace
+
+LastPress::LastPress(QObject* parent)
+    : QObject(parent) {
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool LastPress::eventFilter(QObject* watched, QEvent* event) {
+    if (!watched->isWindowType()) {
+        return false;
+    }
+    if (event->type() == QEvent::KeyPress) {
+        const auto* const key = static_cast<QKeyEvent*>(event);
+        if (!key->isAutoRepeat() && !isModifier(key->key())) {
+            note(Qt::TabFocusReason);
+        }
+    } else if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin) {
+        note(Qt::MouseFocusReason);
+    }
+    return false;
+}
+
+void LastPress::note(Qt::FocusReason reason) {
+    m_reason = reason;
+    emit pressed();
+}
+
+} // namespace drossbin

@@ -1,0 +1,40 @@
+#include "views/motion/Exposure.h"
+
+#include <QEvent>
+
+namespace drossbin {
+
+void Exposure::setWindow(QQuickWindow* window) {
+    if (window == m_window) {
+        return;
+    }
+    if (m_window) {
+        m_window->removeEventFilter(this);
+        m_window->disconnect(this);
+    }
+    m_window = window;
+    if (m_window) {
+        m_window->installEventFilter(this);
+        connect(m_window, &QWindow::visibilityChanged, this, &Exposure::look);
+    }
+    emit windowChanged();
+    look();
+}
+
+bool Exposure::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Expose) {
+        look();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void Exposure::look() {
+    const bool isSeen =
+        m_window && m_window->isExposed() && m_window->visibility() != QWindow::Minimized;
+    if (isSeen != m_isSeen) {
+        m_isSeen = isSeen;
+        emit isSeenChanged();
+    }
+}
+
+} // namespace drossbin
