@@ -7,7 +7,6 @@ namespace drossbin {
 
 namespace {
 
-constexpr auto category = DiskCategory::appData;
 constexpr const char* location = "/Library/Application Support/";
 constexpr std::int64_t smallestSize = 5'000'001;
 constexpr const char* safetyNote = "App support data — safe to clear; the app will recreate it.";
@@ -27,22 +26,15 @@ std::vector<DiskItem> DiskScanner::scanAppData(const std::string& home) {
         if (std::ranges::count(protectedNames, name) > 0) {
             continue;
         }
-        const std::string path = folder + name;
-        const auto size = directorySize(path);
-        if (!size || *size < smallestSize) {
-            continue;
-        }
         const RiskLevel risk = classifyAppDataRisk(name);
-        items.push_back({.name = name,
-                         .path = path,
-                         .size = *size,
-                         .category = category,
-                         .risk = risk,
-                         .lastAccessed = modificationDate(path),
-                         .sfSymbol = std::string(icon(category)),
-                         .safetyNote = risk == RiskLevel::safe
-                                           ? std::optional<std::string>(safetyNote)
-                                           : std::nullopt});
+        addMeasured(items,
+                    {.name = name,
+                     .path = folder + name,
+                     .category = DiskCategory::appData,
+                     .risk = risk,
+                     .safetyNote = risk == RiskLevel::safe ? std::optional<std::string>(safetyNote)
+                                                           : std::nullopt},
+                    smallestSize);
     }
     return items;
 }

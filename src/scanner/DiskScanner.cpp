@@ -45,9 +45,18 @@ std::vector<DiskItem> DiskScanner::scan(const Progress& progress) {
     return all;
 }
 
-std::optional<Date> DiskScanner::modificationDate(const std::string& path) {
-    const auto attributes = FileManager::attributesOfItem(path);
-    return attributes ? std::optional(attributes->modificationDate) : std::nullopt;
+void DiskScanner::addMeasured(std::vector<DiskItem>& items, DiskItem item,
+                              std::int64_t smallestSize) {
+    const auto size = directorySize(item.path);
+    if (!size || *size < smallestSize) {
+        return;
+    }
+    item.size = *size;
+    item.sfSymbol = icon(item.category);
+    if (const auto attributes = FileManager::attributesOfItem(item.path)) {
+        item.lastAccessed = attributes->modificationDate;
+    }
+    items.push_back(std::move(item));
 }
 
 } // namespace drossbin

@@ -48,8 +48,9 @@ class DiskScanner {
     static RiskLevel classifyAppDataRisk(std::string_view name);
 
   private:
-    /// The date that the rows show; absent when the attributes cannot be read.
-    static std::optional<Date> modificationDate(const std::string& path);
+    /// Adds `item`, which lacks only its size, date and symbol, where what lies at its path
+    /// measures `smallestSize` bytes or more. Where the date cannot be read the item has none.
+    static void addMeasured(std::vector<DiskItem>& items, DiskItem item, std::int64_t smallestSize);
 };
 
 } // namespace drossbin

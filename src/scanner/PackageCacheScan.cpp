@@ -10,7 +10,7 @@ struct Location {
     const char* safetyNote;
 };
 
-constexpr auto category = DiskCategory::packageCaches;
+constexpr std::int64_t smallestSize = 1;
 constexpr std::array<Location, 12> locations{{
     {"/.npm", "npm cache", "npm cache — safe to clear with `npm cache clean`."},
     {"/.cache", "User cache (~/.cache)", "General user cache — usually safe."},
@@ -33,19 +33,13 @@ constexpr std::array<Location, 12> locations{{
 std::vector<DiskItem> DiskScanner::scanPackageCaches(const std::string& home) {
     std::vector<DiskItem> items;
     for (const Location& location : locations) {
-        const std::string path = home + location.suffix;
-        const auto size = directorySize(path);
-        if (!size || *size < 1) {
-            continue;
-        }
-        items.push_back({.name = location.name,
-                         .path = path,
-                         .size = *size,
-                         .category = category,
-                         .risk = RiskLevel::safe,
-                         .lastAccessed = modificationDate(path),
-                         .sfSymbol = std::string(icon(category)),
-                         .safetyNote = location.safetyNote});
+        addMeasured(items,
+                    {.name = location.name,
+                     .path = home + location.suffix,
+                     .category = DiskCategory::packageCaches,
+                     .risk = RiskLevel::safe,
+                     .safetyNote = location.safetyNote},
+                    smallestSize);
     }
     return items;
 }

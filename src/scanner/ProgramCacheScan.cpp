@@ -7,7 +7,6 @@ namespace drossbin {
 
 namespace {
 
-constexpr auto category = DiskCategory::programCaches;
 constexpr const char* location = "/Library/Caches/";
 constexpr std::int64_t smallestSize = 1'000'001;
 constexpr const char* safetyNote = "Cache file — the app will rebuild this automatically.";
@@ -19,21 +18,15 @@ std::vector<DiskItem> DiskScanner::scanProgramCaches(const std::string& home) {
     std::vector<DiskItem> items;
     for (const std::string& name :
          FileManager::contentsOfDirectory(folder).value_or(std::vector<std::string>())) {
-        const std::string path = folder + name;
-        const auto size = directorySize(path);
-        if (!size || *size < smallestSize) {
-            continue;
-        }
         const bool isProtected = std::ranges::count(protectedNames, name) > 0;
-        items.push_back(
+        addMeasured(
+            items,
             {.name = name,
-             .path = path,
-             .size = *size,
-             .category = category,
+             .path = folder + name,
+             .category = DiskCategory::programCaches,
              .risk = isProtected ? RiskLevel::critical : RiskLevel::safe,
-             .lastAccessed = modificationDate(path),
-             .sfSymbol = std::string(icon(category)),
-             .safetyNote = isProtected ? std::nullopt : std::optional<std::string>(safetyNote)});
+             .safetyNote = isProtected ? std::nullopt : std::optional<std::string>(safetyNote)},
+            smallestSize);
     }
     return items;
 }
