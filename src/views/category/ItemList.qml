@@ -70,12 +70,12 @@ RowsView {
         readonly property bool isMoving: list.moving
 
         function takeItsPlace(): void {
-            Siblings.put(row, list.itemAtIndex(row.index - 1), list.itemAtIndex(row.index + 1));
+            ReadingOrder.put(row, list.itemAtIndex(row.index - 1), list.itemAtIndex(row.index + 1));
             // The current row is kept while it is out of view, and comes back unannounced.
             if (list.currentIndex === row.index - 1)
-                Siblings.put(list.currentItem, null, row);
+                ReadingOrder.put(list.currentItem, null, row);
             else if (list.currentIndex === row.index + 1)
-                Siblings.put(list.currentItem, row, null);
+                ReadingOrder.put(list.currentItem, row, null);
         }
 
         x: 8

@@ -13,7 +13,7 @@ ColumnLayout {
 
     spacing: 0
 
-    BrowserWarning {
+    SelectionWarning {
         Layout.fillWidth: true
         shown: bar.hasBrowserData
     }

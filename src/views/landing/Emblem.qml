@@ -12,7 +12,7 @@ Rectangle {
     radius: 60
     color: Theme.tinted(Theme.blue, 0.08)
 
-    Exposure {
+    WindowVisibility {
         id: exposure
 
         window: emblem.Window.window

@@ -65,7 +65,7 @@ Scene {
         }
     }
 
-    BrowserTip {
+    ScanningTip {
         id: tip
 
         anchors.horizontalCenter: parent.horizontalCenter

@@ -84,7 +84,7 @@ SheetPage {
         }
     }
 
-    BrowserAlert {
+    ConfirmationWarning {
         Layout.fillWidth: true
         visible: view.hasBrowserItems
     }

@@ -51,7 +51,7 @@ TestCase {
         return finder.control(view, Accessible.ProgressBar, "Scanning your Mac...").parent;
     }
 
-    function tipOf(view: ScanProgressView): BrowserTip {
+    function tipOf(view: ScanProgressView): ScanningTip {
         return finder.seen(view).find(item => item.emphasis !== undefined);
     }
 

@@ -1,8 +1,8 @@
-#include "views/category/Siblings.h"
+#include "views/category/ReadingOrder.h"
 
 namespace drossbin {
 
-void Siblings::put(QQuickItem* item, const QQuickItem* previous, const QQuickItem* next) {
+void ReadingOrder::put(QQuickItem* item, const QQuickItem* previous, const QQuickItem* next) {
     if (item == nullptr) {
         return;
     }

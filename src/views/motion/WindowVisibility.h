@@ -8,7 +8,7 @@ namespace drossbin {
 
 /// Whether a window can be seen: shown, and neither minimised nor wholly covered as far as the
 /// system tells. QML itself knows only of the former.
-class Exposure : public QObject {
+class WindowVisibility : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QQuickWindow* window READ window WRITE setWindow NOTIFY windowChanged)

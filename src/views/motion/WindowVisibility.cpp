@@ -1,10 +1,10 @@
-#include "views/motion/Exposure.h"
+#include "views/motion/WindowVisibility.h"
 
 #include <QEvent>
 
 namespace drossbin {
 
-void Exposure::setWindow(QQuickWindow* window) {
+void WindowVisibility::setWindow(QQuickWindow* window) {
     if (window == m_window) {
         return;
     }
@@ -15,20 +15,20 @@ void Exposure::setWindow(QQuickWindow* window) {
     m_window = window;
     if (m_window) {
         m_window->installEventFilter(this);
-        connect(m_window, &QWindow::visibilityChanged, this, &Exposure::look);
+        connect(m_window, &QWindow::visibilityChanged, this, &WindowVisibility::look);
     }
     emit windowChanged();
     look();
 }
 
-bool Exposure::eventFilter(QObject* watched, QEvent* event) {
+bool WindowVisibility::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Expose) {
         look();
     }
     return QObject::eventFilter(watched, event);
 }
 
-void Exposure::look() {
+void WindowVisibility::look() {
     const bool isSeen =
         m_window && m_window->isExposed() && m_window->visibility() != QWindow::Minimized;
     if (isSeen != m_isSeen) {

@@ -9,7 +9,7 @@ namespace drossbin {
 /// The order of the items that share a parent, in which screen readers tell of them. A view adds
 /// its rows in the order in which it needs them, which is another where it scrolls up or uses rows
 /// again.
-class Siblings : public QObject {
+class ReadingOrder : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
