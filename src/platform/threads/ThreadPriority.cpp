@@ -4,6 +4,7 @@
 #include <pthread.h>
 #elif defined(__linux__)
 #include <sys/resource.h>
+#include <unistd.h>
 #endif
 
 namespace drossbin {
@@ -12,9 +13,10 @@ void goAfterOthers() {
 #ifdef __APPLE__
     ::pthread_set_qos_class_self_np(QOS_CLASS_UTILITY, 0);
 #elif defined(__linux__)
-    // Here the nice value is each thread's own. Ten more leave it a tenth of what the window gets.
-    // The system keeps it within its bounds.
-    ::setpriority(PRIO_PROCESS, 0, ::getpriority(PRIO_PROCESS, 0) + 10);
+    // Here the nice value is each thread's own. Ten more than the main thread's, whose number is
+    // the process's, leave it a tenth of what the window gets; the system keeps it within its
+    // bounds.
+    ::setpriority(PRIO_PROCESS, 0, ::getpriority(PRIO_PROCESS, id_t(::getpid())) + 10);
 #endif
 }
 

@@ -2,8 +2,8 @@
 
 namespace drossbin {
 
-/// Lets the program's other threads go before the calling one wherever both want a core. As far as
-/// the system can do it; to be called once by a thread.
+/// Lets the main thread go before the calling one wherever both want a core, as far as the system
+/// can do it. A thread that one of low priority started may call it too: it gets no lower.
 void goAfterOthers();
 
 } // namespace drossbin

@@ -35,6 +35,18 @@ TEST(ThreadPriority, is_lowered_for_the_calling_thread_and_no_other) {
     EXPECT_EQ(niceValue(), before);
 }
 
+TEST(ThreadPriority, gets_no_lower_for_a_thread_that_one_of_low_priority_started) {
+    int lowered = 0;
+    std::thread([&lowered] {
+        goAfterOthers();
+        std::thread([&lowered] {
+            goAfterOthers();
+            lowered = niceValue();
+        }).join();
+    }).join();
+    EXPECT_EQ(lowered, loweredNiceValue());
+}
+
 TEST(ThreadPriority, is_low_in_the_background) {
     std::promise<int> value;
     BackgroundThread::run([&value] { value.set_value(niceValue()); });
