@@ -88,6 +88,13 @@ QtObject {
     readonly property int space32: 32
     /// How high the top of both columns is: what stands in it has its middle in one line.
     readonly property int topLine: 64
+    /// How far apart the lines of a log are.
+    readonly property int logPitch: 18
+
+    /// The room above what is so high, for its middle to be that of the top line.
+    function topRoom(height: real): real {
+        return Math.round((theme.topLine - height) / 2);
+    }
 
     // Shadows: how far they reach, in what steps, and how far below they lie
     readonly property int shadowSpread: 20

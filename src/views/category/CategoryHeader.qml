@@ -9,8 +9,7 @@ ColumnLayout {
     required property string icon
     required property string subtitle
     required property string sizeText
-    /// The room above, with which the first line is in the middle of the top line.
-    readonly property real topRoom: Math.round((Theme.topLine - line.implicitHeight) / 2)
+    readonly property real firstLine: line.implicitHeight
 
     spacing: 4
 

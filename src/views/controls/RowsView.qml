@@ -43,11 +43,14 @@ ListView {
     }
 
     Hint {
+        id: tip
+
         parent: rows
         text: pointer.hovered && !rows.moving ? rows.tipAt(pointer.place.x, pointer.place.y) : ""
         isAsked: text !== ""
         place: Qt.rect(pointer.place.x, pointer.place.y, 0, Theme.space16)
         widest: 640
         wrapMode: Text.WrapAnywhere
+        onTextChanged: tip.isAnswered = false // it is about another row
     }
 }

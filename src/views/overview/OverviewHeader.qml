@@ -13,11 +13,6 @@ Item {
     signal smartSelect
     signal deletionRequested
 
-    /// The room above an item that is in the middle of the top line.
-    function topRoom(item: Item): real {
-        return Math.round((Theme.topLine - item.height) / 2);
-    }
-
     implicitHeight: Math.max(titles.y + titles.height, buttons.y + 2 * select.implicitHeight + buttons.spacing) + Theme.space16
 
     Column {
@@ -28,7 +23,7 @@ Item {
         anchors.right: buttons.left
         anchors.rightMargin: Theme.space16
         anchors.top: parent.top
-        anchors.topMargin: header.topRoom(title)
+        anchors.topMargin: Theme.topRoom(title.height)
         spacing: Theme.space4
 
         PlainLabel {
@@ -56,7 +51,7 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: Theme.space16
         anchors.top: parent.top
-        anchors.topMargin: header.topRoom(select)
+        anchors.topMargin: Theme.topRoom(select.height)
         width: Math.max(select.implicitWidth, remove.visible ? remove.implicitWidth : 0)
         spacing: Theme.space8
 

@@ -17,7 +17,7 @@ SheetPage {
     implicitWidth: 440
     listName: "Deletion log"
     highest: 120
-    pitch: 18
+    pitch: Theme.logPitch
     model: view.log
     onVisibleChanged: if (view.visible && view.firstFailure > 0)
         view.showRow(view.firstFailure)

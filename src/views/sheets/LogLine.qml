@@ -8,9 +8,7 @@ Item {
     required property string text
     required property bool isSuccess
 
-    readonly property int pitch: 18
-
-    implicitHeight: label.lineCount * line.pitch
+    implicitHeight: label.lineCount * Theme.logPitch
     Accessible.role: Accessible.ListItem
     Accessible.name: line.text
 
@@ -24,8 +22,8 @@ Item {
             rightMargin: Theme.space12
         }
         // In the middle of its lines: what they are higher than the text is below each.
-        y: (line.pitch - metrics.height) / 2
-        lineHeight: line.pitch
+        y: (Theme.logPitch - metrics.height) / 2
+        lineHeight: Theme.logPitch
         lineHeightMode: Text.FixedHeight
         text: line.text
         color: line.isSuccess ? Theme.label : Theme.red

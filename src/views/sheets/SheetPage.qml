@@ -5,8 +5,7 @@ import QtQuick.Layouts
 import QtQuick.Templates as T
 
 /// The inside of a sheet: what it says, a list, and buttons. Where the window is low the list gets
-/// shorter; where that is not enough, all moves together; and where even that is not, all but the
-/// buttons scrolls: those are always in view.
+/// shorter, and where that is not enough, all but the buttons scrolls: those are always in view.
 FocusScope {
     id: page
 
@@ -19,11 +18,8 @@ FocusScope {
     property alias model: list.model
     property alias delegate: list.delegate
     property alias buttons: foot.data
-    /// The heights of the heading's parts, each with the 20 below it that it should have.
-    readonly property real said: Array.from(head.children).reduce((sum, part) => part.visible ? sum + part.implicitHeight + 20 : sum, 0)
-    readonly property bool isTight: page.tallest < 24 + page.said + list.least + 20 + foot.implicitHeight + 24
-    readonly property int margin: page.isTight ? 16 : 24
-    readonly property int spacing: page.isTight ? 8 : 20
+    readonly property int margin: Theme.space24
+    readonly property int spacing: Theme.space20
 
     function showRow(row: int): void {
         list.showRow(row);
@@ -65,7 +61,7 @@ FocusScope {
             room: page.tallest - list.y - page.spacing - foot.implicitHeight - page.margin
             isStop: list.isLonger || scroll.interactive
             // What is above it is there to be read while the keyboard is elsewhere.
-            onHasFocusChanged: scroll.contentY = list.hasFocus ? scroll.contentHeight - scroll.height : 0
+            onHasFocusChanged: scroll.contentY = list.hasFocus ? Math.max(0, scroll.contentHeight - scroll.height) : 0
         }
     }
 
