@@ -57,7 +57,7 @@ FocusScope {
                 label: "Scan"
                 hint: "Scans again; the selection is lost"
                 symbol: "arrow.clockwise"
-                enabled: shell.canScan
+                enabled: visible && shell.canScan
                 onClicked: shell.scan()
             }
         }

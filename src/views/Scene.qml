@@ -10,7 +10,11 @@ FocusScope {
     /// A key shows its place with a ring, the pointer does not.
     readonly property int reason: LastPress.reason
 
+    /// Before the keyboard comes.
+    signal entered
+
     function enter(): void {
+        scene.entered();
         scene.first.forceActiveFocus(scene.reason);
     }
 

@@ -386,6 +386,26 @@ Item {
                 tryCompare(state, "searchText", "none");
                 reaches("Filter items...");
             }
+
+            function test_the_keyboard_comes_to_a_row_in_view() {
+                state.perCategory = 50;
+                press("Scan");
+                reaches("Scanning your Mac...");
+                state.finish();
+                reaches("Program Caches 1");
+                keyClick(Qt.Key_Space);
+                const list = find.control(host.contentItem.parent, Accessible.List, "Items");
+                list.contentY += 1000;
+                waitForRendering(host.contentItem, 100);
+                press("Clear Selection");
+                tryVerify(() => host.activeFocusItem instanceof ItemRowView);
+                const row = host.activeFocusItem;
+                const top = row.mapToItem(list, 0, 0).y;
+                verify(top >= 0 && top + row.height <= list.height, top);
+                verify(list.contentY >= 900, list.contentY);
+                keyClick(Qt.Key_Space);
+                verify(row.isSelected);
+            }
         }
     }
 }

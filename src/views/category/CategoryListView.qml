@@ -29,6 +29,7 @@ Scene {
     onNameChanged: list.start()
     // Rows that came while it was hidden are not counted before.
     onVisibleChanged: list.forceLayout()
+    onEntered: list.beginInView()
 
     Shortcut {
         sequence: "Ctrl+F"
@@ -42,7 +43,7 @@ Scene {
 
         CategoryHeader {
             Layout.margins: Theme.space16
-            Layout.topMargin: topRoom
+            Layout.topMargin: Theme.topRoom(firstLine)
             name: pane.name
             icon: pane.icon
             subtitle: pane.subtitle

@@ -9,7 +9,7 @@ RowsView {
 
     readonly property ItemRowView currentRow: list.currentItem as ItemRowView
     /// A protected row cannot have the focus; the list then has it, and shows where it is.
-    readonly property bool showsFocus: list.currentRow !== null && (list.currentRow.visualFocus || (list.currentRow.isProtected && list.activeFocus))
+    readonly property bool showsFocus: list.currentRow !== null && (list.currentRow.visualFocus || (list.currentRow.isProtected && list.activeFocus && LastPress.reason === Qt.TabFocusReason))
     readonly property int page: Math.max(1, Math.floor(list.height / ((list.currentItem?.height ?? 0) + list.spacing)))
     /// How many rows a key walks.
     readonly property var strides: ({
@@ -33,6 +33,17 @@ RowsView {
             list.forceActiveFocus(Qt.TabFocusReason);
             list.walkTo(list.currentIndex);
         }
+    }
+
+    /// Makes a row in view the current one, so that the keyboard begins at what is seen.
+    function beginInView(): void {
+        const place = (list.currentRow?.y ?? 0) - list.contentY;
+        const height = list.currentRow?.height ?? 0;
+        if (place >= 0 && place + height <= list.height)
+            return;
+        // The end of a row that lies there begins in view; between two rows there is none.
+        const rows = [1, 1 - list.spacing].map(gap => list.indexAt(list.width / 2, list.contentY + height - gap));
+        list.currentIndex = Math.max(...rows, 0);
     }
 
     function walkTo(row: int): void {

@@ -7,7 +7,8 @@ namespace drossbin {
 namespace {
 
 bool isModifier(int key) {
-    return key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock;
+    return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr ||
+           key == Qt::Key_Super_L || key == Qt::Key_Super_R;
 }
 
 } // namespace

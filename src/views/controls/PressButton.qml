@@ -23,7 +23,7 @@ T.AbstractButton {
     // A key shows where it goes, also where the window brought the focus.
     Keys.onPressed: event => {
         const isReturn = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
-        if (isReturn || event.key === Qt.Key_Space || event.key === Qt.Key_Tab)
+        if (isReturn || [Qt.Key_Space, Qt.Key_Tab, Qt.Key_Backtab].includes(event.key))
             button.focusReason = Qt.TabFocusReason;
         if (isReturn)
             button.press();

@@ -112,7 +112,7 @@ TestCase {
     }
 
     function test_is_nearer_to_its_button_than_to_the_next_row_s() {
-        const rowPitch = 41;
+        const rowPitch = 44;
         const button = opened();
         verify(placeOf(button.popover).top - 8 - target(button).y < rowPitch / 2);
     }
