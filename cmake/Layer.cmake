@@ -11,6 +11,12 @@ if(DROSSBIN_SANITIZE)
   add_link_options(-fsanitize=${DROSSBIN_SANITIZE})
 endif()
 
+# The one place that tells the code whether it may do what only Linux can. Other systems than Linux are
+# rarely at hand: DROSSBIN_PORTABLE has what they run built and tested on Linux too.
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT DROSSBIN_PORTABLE)
+  add_compile_definitions(DROSSBIN_LINUX)
+endif()
+
 # expose_layer(TARGET FOLDER): what links the target may include the files of the folder of src/.
 function(expose_layer target folder)
   set(view "${CMAKE_BINARY_DIR}/include/${target}")

@@ -24,7 +24,7 @@ namespace drossbin {
 
 namespace {
 
-#ifdef O_PATH
+#ifdef DROSSBIN_LINUX
 constexpr int searchOnly = O_PATH;
 #elif defined(O_SEARCH)
 constexpr int searchOnly = O_SEARCH;

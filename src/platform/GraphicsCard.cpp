@@ -1,6 +1,6 @@
 #include "platform/GraphicsCard.h"
 
-#ifdef __linux__
+#ifdef DROSSBIN_LINUX
 #include "platform/FileManager.h"
 
 #include <algorithm>
@@ -8,7 +8,7 @@
 
 namespace drossbin {
 
-#ifdef __linux__
+#ifdef DROSSBIN_LINUX
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#ifdef __linux__ // elsewhere a card is taken for granted
+#ifdef DROSSBIN_LINUX // elsewhere a card is taken for granted
 
 namespace drossbin {
 namespace {

@@ -154,7 +154,7 @@ int getpwuid_r(uid_t user, struct passwd* entry, char* buffer, size_t size, stru
     return isLetThrough({"getpwuid_r", ""}) ? next(user, entry, buffer, size, found) : errno;
 }
 
-#ifdef __linux__
+#ifdef DROSSBIN_LINUX
 
 int statx(int folder, const char* name, int flags, unsigned int fields,
           struct statx* status) __THROW {
@@ -174,6 +174,17 @@ ssize_t getdents64(int folder, void* records, size_t size) __THROW {
         at += record->d_reclen;
     }
     return end;
+}
+
+#else
+
+dirent* readdir(DIR* folder) {
+    static const auto next = systemFunction(&readdir, "readdir");
+    dirent* const record = isLetThrough({"readdir", ""}) ? next(folder) : nullptr;
+    if (record != nullptr && drossbin::test::hidesKinds) {
+        record->d_type = DT_UNKNOWN;
+    }
+    return record;
 }
 
 #endif

@@ -8,12 +8,20 @@
 
 namespace drossbin::test {
 
+/// The call that reads a folder: a block of entries on Linux, a single one elsewhere.
+#ifdef DROSSBIN_LINUX
+inline constexpr std::string_view readsFolder = "getdents64";
+#else
+inline constexpr std::string_view readsFolder = "readdir";
+#endif
+
 /// While it lives, `hook` is asked before each call that this thread makes to the file system or
 /// the user database: it may make the call fail, shorten it, or change the disk in between. Its own
 /// calls go through.
 ///
 /// A program that uses this has functions of its own in front of the system's: openat, unlinkat,
-/// fstatat, fstat, lstat, statx, getdents64, write, fsync, renameat, mkdir and getpwuid_r.
+/// fstatat, fstat, lstat, statx, getdents64 or readdir, write, fsync, renameat, mkdir and
+/// getpwuid_r.
 class SystemCallHook {
   public:
     struct Call {

@@ -11,7 +11,7 @@ namespace drossbin {
 
 namespace {
 
-#ifdef __linux__
+#ifdef DROSSBIN_LINUX
 using Record = dirent64;
 #else
 using Record = dirent;
@@ -60,7 +60,7 @@ bool DirectoryReader::read(DirectoryBlock& block, std::size_t capacity) {
     return block.m_end > 0;
 }
 
-#ifdef __linux__
+#ifdef DROSSBIN_LINUX
 
 // The system call itself: readdir reads half as much at a time and needs a descriptor of its own.
 
@@ -114,7 +114,7 @@ void DirectoryReader::openStream() {
 }
 
 std::size_t DirectoryReader::fill(std::byte* records, std::size_t capacity) {
-    if (!m_stream) {
+    if (!m_stream && !m_ending) {
         openStream();
     }
     std::size_t end = 0;
@@ -122,7 +122,8 @@ std::size_t DirectoryReader::fill(std::byte* records, std::size_t capacity) {
         errno = 0; // the one sign by which readdir tells the end from an error
         const Record* record = ::readdir(m_stream.get());
         if (record == nullptr) {
-            m_error = lastSystemError();
+            m_ending = errno != 0 ? lastSystemError() : std::error_code();
+            m_stream.reset(); // its descriptor may be wanted by what was found
             break;
         }
         auto* copy = reinterpret_cast<Record*>(records + end);
@@ -133,11 +134,15 @@ std::size_t DirectoryReader::fill(std::byte* records, std::size_t capacity) {
         end += length;
         ++m_position;
     }
+    if (end == 0 && m_ending) {
+        m_error = *m_ending;
+    }
     return end;
 }
 
 void DirectoryReader::rewind() {
     m_position = 0;
+    m_ending.reset();
     m_stream.reset();
 }
 

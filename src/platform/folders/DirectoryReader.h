@@ -66,7 +66,7 @@ class DirectoryReader {
 
     int m_folder;
     std::error_code m_error;
-#ifndef __linux__
+#ifndef DROSSBIN_LINUX
     struct CloseStream {
         void operator()(DIR* stream) const { ::closedir(stream); }
     };
@@ -75,6 +75,7 @@ class DirectoryReader {
 
     Position m_position;
     std::unique_ptr<DIR, CloseStream> m_stream;
+    std::optional<std::error_code> m_ending; ///< the error that ended the stream, or none
 #endif
 };
 

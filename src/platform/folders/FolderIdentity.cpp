@@ -1,14 +1,14 @@
 #include "platform/folders/FolderIdentity.h"
 
 #include <fcntl.h>
-#ifdef STATX_MNT_ID
+#ifdef DROSSBIN_LINUX
 #include <sys/sysmacros.h>
 #endif
 
 namespace drossbin {
 
 std::optional<FolderIdentity> FolderIdentity::of(int folder) {
-#ifdef STATX_MNT_ID
+#ifdef DROSSBIN_LINUX
     // The device alone does not tell a folder from another one of the same file system that is
     // mounted over it. A system that refuses this call tells at least the device below.
     struct statx extended {};

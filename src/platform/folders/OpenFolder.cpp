@@ -1,6 +1,5 @@
 #include "platform/folders/OpenFolder.h"
 
-#include <cerrno>
 #include <fcntl.h>
 
 namespace drossbin {
@@ -11,8 +10,9 @@ FileDescriptor openFolder(int parent, const char* name, LastLink link) {
     return FileDescriptor(::openat(parent, name, flags | linkFlag));
 }
 
-bool lacksDescriptors() {
-    return errno == EMFILE || errno == ENFILE;
+bool lacksDescriptors(const std::error_code& error) {
+    return error == std::errc::too_many_files_open ||
+           error == std::errc::too_many_files_open_in_system;
 }
 
 } // namespace drossbin

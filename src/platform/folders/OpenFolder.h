@@ -2,6 +2,7 @@
 
 #include "platform/folders/FileDescriptor.h"
 #include "platform/folders/FolderIdentity.h"
+#include "platform/folders/SystemError.h"
 
 namespace drossbin {
 
@@ -20,7 +21,8 @@ enum class LastLink : bool { followed, refused };
 /// or a device would wait, or act. Not open on failure, with the reason in errno.
 FileDescriptor openFolder(int parent, const char* name, LastLink link);
 
-/// Whether errno says that the process, or the system, may open no more files.
-[[nodiscard]] bool lacksDescriptors();
+/// Whether an error, by default the one in errno, says that the process or the system may open no
+/// more files.
+[[nodiscard]] bool lacksDescriptors(const std::error_code& error = lastSystemError());
 
 } // namespace drossbin

@@ -12,7 +12,7 @@
 #include <thread>
 #include <utility>
 
-#ifdef __linux__
+#ifdef DROSSBIN_LINUX
 #include <sched.h>
 #endif
 
@@ -22,7 +22,7 @@ namespace {
 
 /// The core that the calling thread runs on; negative where the system does not tell.
 int currentCore() {
-#ifdef __linux__
+#ifdef DROSSBIN_LINUX
     return ::sched_getcpu();
 #else
     return -1;
@@ -33,7 +33,7 @@ int currentCore() {
 /// on all of them again afterwards. A system may start a thread on the core of its maker, and take
 /// as long to see that another is idle as 10,000 files take to be measured.
 void leaveCore([[maybe_unused]] int core) {
-#ifdef __linux__
+#ifdef DROSSBIN_LINUX
     cpu_set_t all;
     if (core < 0 || currentCore() != core || ::sched_getaffinity(0, sizeof(all), &all) != 0) {
         return;

@@ -81,6 +81,13 @@ void TreeWalk::readOn() {
             return;
         }
     }
+    // Some systems read a folder through a descriptor more.
+    if (lacksDescriptors(reader.error())) {
+        if (m_stack.closeUppermost()) {
+            return;
+        }
+        giveUp();
+    }
     m_stack.unread().reset();
 }
 

@@ -17,7 +17,7 @@ std::int64_t nanoseconds(clockid_t clock) {
 /// How often the thread has stopped of its own accord. When it was made to stop, so that another
 /// could run, it had something to do.
 std::int64_t pausesSoFar() {
-#ifdef RUSAGE_THREAD
+#ifdef DROSSBIN_LINUX
     rusage usage{};
     ::getrusage(RUSAGE_THREAD, &usage);
     return usage.ru_nvcsw;

@@ -2,7 +2,7 @@
 
 #ifdef __APPLE__
 #include <pthread.h>
-#elif defined(__linux__)
+#elif defined(DROSSBIN_LINUX)
 #include <sys/resource.h>
 #include <unistd.h>
 #endif
@@ -12,7 +12,7 @@ namespace drossbin {
 void goAfterOthers() {
 #ifdef __APPLE__
     ::pthread_set_qos_class_self_np(QOS_CLASS_UTILITY, 0);
-#elif defined(__linux__)
+#elif defined(DROSSBIN_LINUX)
     // Here the nice value is each thread's own. Ten more than the main thread's, whose number is
     // the process's, leave it a tenth of what the window gets; the system keeps it within its
     // bounds.

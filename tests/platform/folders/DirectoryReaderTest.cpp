@@ -177,7 +177,6 @@ TEST(DirectoryReader, gives_nothing_but_the_error_where_there_is_no_folder_to_re
     EXPECT_EQ(reader.error(), std::errc::not_a_directory);
 }
 
-#ifdef __linux__
 TEST(DirectoryReader, forgets_an_error_when_it_can_read_again) {
     const ScratchFolder scratch;
     scratch.file("file", 0);
@@ -192,7 +191,24 @@ TEST(DirectoryReader, forgets_an_error_when_it_can_read_again) {
     EXPECT_TRUE(reader.read(block));
     EXPECT_EQ(reader.error(), std::error_code());
 }
-#endif
+
+TEST(DirectoryReader, gives_what_it_read_before_an_error_and_then_the_error) {
+    const ScratchFolder scratch;
+    makeFiles(scratch, 500);
+    const FileDescriptor folder = open(scratch.path());
+    DirectoryReader reader(folder.get());
+    int reads = 0;
+    const test::SystemCallHook failure([&](const test::SystemCallHook::Call& call) {
+        return call.function == test::readsFolder && ++reads == 5 ? EIO : 0;
+    });
+    const std::size_t given = entriesLeft(reader, 2048).size();
+    EXPECT_GT(given, 0U);
+    EXPECT_LT(given, 500U);
+    EXPECT_EQ(reader.error(), std::errc::io_error);
+    reader.rewind();
+    EXPECT_EQ(entriesLeft(reader).size(), 500U);
+    EXPECT_EQ(reader.error(), std::error_code());
+}
 
 } // namespace
 } // namespace drossbin

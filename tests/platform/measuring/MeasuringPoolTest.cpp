@@ -73,7 +73,7 @@ TEST(MeasuringPoolOf16Cores, is_exact_for_more_walks_than_there_are_descriptors)
     expectExact(20, 40);
 }
 
-#ifdef __linux__ // other systems do not tell
+#ifdef DROSSBIN_LINUX // other systems do not tell
 
 cpu_set_t coresOf(pid_t thread) {
     cpu_set_t cores{};

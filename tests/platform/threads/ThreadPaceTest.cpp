@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-#ifdef __linux__
+#ifdef DROSSBIN_LINUX
 #include <sched.h>
 #endif
 
@@ -16,6 +16,19 @@ namespace drossbin {
 namespace {
 
 constexpr std::chrono::milliseconds aWhile{20};
+
+TEST(ThreadPace, has_not_waited_when_nothing_is_known_yet) {
+    EXPECT_FALSE(ThreadPace().hasWaited());
+}
+
+TEST(ThreadPace, has_waited_when_the_thread_slept) {
+    ThreadPace pace;
+    pace.hasWaited();
+    std::this_thread::sleep_for(aWhile);
+    EXPECT_TRUE(pace.hasWaited());
+}
+
+#ifdef DROSSBIN_LINUX // where the system tells who stopped the thread
 
 /// Until the thread had the processor for a while, however many others want it.
 void compute() {
@@ -27,17 +40,6 @@ void compute() {
     const auto end = used() + aWhile;
     while (used() < end) {
     }
-}
-
-TEST(ThreadPace, has_not_waited_when_nothing_is_known_yet) {
-    EXPECT_FALSE(ThreadPace().hasWaited());
-}
-
-TEST(ThreadPace, has_waited_when_the_thread_slept) {
-    ThreadPace pace;
-    pace.hasWaited();
-    std::this_thread::sleep_for(aWhile);
-    EXPECT_TRUE(pace.hasWaited());
 }
 
 TEST(ThreadPace, has_not_waited_when_the_thread_computed) {
@@ -64,8 +66,6 @@ TEST(ThreadPace, forgets_what_was_before_a_restart) {
     compute();
     EXPECT_FALSE(pace.hasWaited());
 }
-
-#ifdef __linux__ // where the system tells who stopped the thread
 
 /// Has the calling thread, and those that it starts, run on one core only.
 void stayOnOneCore() {

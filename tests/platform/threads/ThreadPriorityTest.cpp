@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#ifdef __linux__ // where each thread can be asked
+#ifdef DROSSBIN_LINUX // where each thread can be asked
 
 #include "platform/BackgroundThread.h"
 
