@@ -19,7 +19,9 @@ Rectangle {
     readonly property bool isLonger: panel.needed > panel.height
     readonly property bool hasFocus: rows.activeFocus
     readonly property real needed: rows.contentHeight + rows.topMargin + rows.bottomMargin
-    /// In no window does it show less than one row and a half.
+    /// So high it should be at least, or less with fewer rows; in no window does it show less than one
+    /// and a half.
+    readonly property real least: Math.min(panel.needed, rows.topMargin + 2.5 * panel.pitch)
     readonly property real available: Math.min(panel.highest, Math.max(panel.room, rows.topMargin + 1.5 * panel.pitch))
     readonly property real wholeRows: Math.floor((panel.available - rows.topMargin) / panel.pitch - 0.5)
     readonly property var strides: ({

@@ -5,7 +5,8 @@ import QtQuick.Layouts
 import QtQuick.Templates as T
 
 /// The inside of a sheet: what it says, a list, and buttons. Where the window is low the list gets
-/// shorter, and where that is not enough, all but the buttons scrolls: those are always in view.
+/// shorter; where that is not enough, all moves together; and where even that is not, all but the
+/// buttons scrolls: those are always in view.
 FocusScope {
     id: page
 
@@ -18,8 +19,11 @@ FocusScope {
     property alias model: list.model
     property alias delegate: list.delegate
     property alias buttons: foot.data
-    readonly property int margin: Theme.space24
-    readonly property int spacing: Theme.space20
+    /// The heights of the heading's parts, each with the 20 below it that it should have.
+    readonly property real said: Array.from(head.children).reduce((sum, part) => part.visible ? sum + part.implicitHeight + 20 : sum, 0)
+    readonly property bool isTight: page.tallest < 24 + page.said + list.least + 20 + foot.implicitHeight + 24
+    readonly property int margin: page.isTight ? 16 : 24
+    readonly property int spacing: page.isTight ? 8 : 20
 
     function showRow(row: int): void {
         list.showRow(row);

@@ -189,6 +189,7 @@ TestCase {
             { tag: "where there is room", tallest: 618, warned: true, rows: 6.5 },
             { tag: "where it is a little low", tallest: 430, warned: false, rows: 5.5 },
             { tag: "where it is low", tallest: 345, warned: false, rows: 2.5 },
+            { tag: "where it is low and all moves together", tallest: 408, warned: true, rows: 3.5 },
             { tag: "where it is very low", tallest: 368, warned: true, rows: 1.5 },
             { tag: "where there is none", tallest: 300, warned: true, rows: 1.5 }
         ];
@@ -200,18 +201,29 @@ TestCase {
         verify(view.height <= data.tallest);
     }
 
+    function test_all_moves_together_only_where_two_rows_and_a_half_find_no_room_otherwise() {
+        const roomy = make({ selectedItems: many, hasBrowserItems: true });
+        const lowest = roomy.height - list(roomy).height + 4 + 2.5 * 28;
+        for (const isTight of [false, true]) {
+            const view = make({ selectedItems: many, hasBrowserItems: true, tallest: isTight ? lowest - 1 : lowest });
+            compare(find.symbol(view, "exclamationmark.triangle.fill").mapToItem(view, 0, 0).y, isTight ? 16 : 24);
+            compare(list(view).mapToItem(find.button(view, "Cancel"), 0, list(view).height).y, isTight ? -8 : -20);
+            verify(list(view).height >= 74);
+        }
+    }
+
     function test_where_even_a_short_list_finds_no_room_all_but_the_buttons_scrolls() {
         const view = make({ selectedItems: many, hasBrowserItems: true, tallest: 300 });
         compare(view.height, 300);
         const top = item => item.mapToItem(view, 0, 0).y;
         const cancel = find.button(view, "Cancel");
-        compare(top(cancel) + cancel.height, 300 - 24);
-        compare(top(find.symbol(view, "exclamationmark.triangle.fill")), 24);
+        compare(top(cancel) + cancel.height, 300 - 16);
+        compare(top(find.symbol(view, "exclamationmark.triangle.fill")), 16);
         verify(top(list(view)) + list(view).height > top(cancel));
         list(view).forceActiveFocus(Qt.TabFocusReason);
-        fuzzyCompare(top(list(view)) + list(view).height, top(cancel) - 20, 0.01);
+        fuzzyCompare(top(list(view)) + list(view).height, top(cancel) - 8, 0.01);
         cancel.forceActiveFocus(Qt.TabFocusReason);
-        compare(top(find.symbol(view, "exclamationmark.triangle.fill")), 24);
+        compare(top(find.symbol(view, "exclamationmark.triangle.fill")), 16);
     }
 
     function test_a_short_list_that_has_to_be_scrolled_to_is_a_stop_of_the_keyboard() {
