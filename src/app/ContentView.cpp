@@ -63,7 +63,7 @@ void ContentView::goBack() {
 
 // The controls that start a run are gone only when the screens have been redrawn, a sheet takes its
 // time to come and to leave, and assistive programs press what lies below one: a press that comes
-// too early or too late does nothing.
+// too early or too late begins nothing.
 
 bool ContentView::isBusy() const {
     return m_scanResult.isScanning || m_scanResult.showConfirmation || m_scanResult.isDeleting ||

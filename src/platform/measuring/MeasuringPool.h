@@ -24,7 +24,7 @@ namespace drossbin {
 /// close some would wait for ever, and one that stops waiting would leave a part of its tree out.
 /// So none waits: each walk looks at `isGivenUp` before every folder and ends, a subtree that is
 /// taken after that ends at once, and `finish` returns when none is left. The measurement is then
-/// made again alone, with every descriptor that there is.
+/// made again alone, with all descriptors that the rest of the program leaves.
 class MeasuringPool {
   public:
     /// The one pool: the cores that it is to keep busy are the process's. Absent in a child that

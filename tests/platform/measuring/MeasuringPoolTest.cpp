@@ -81,7 +81,7 @@ cpu_set_t coresOf(pid_t thread) {
     return cores;
 }
 
-// Each helper leaves the core of the thread that started it, once and not for ever.
+// To leave the core of the thread that started it, a helper gives that core up for a moment.
 TEST(MeasuringPoolOf16Cores, leaves_its_helpers_every_core) {
     const ScratchFolder scratch;
     const std::int64_t size = makeTrees(scratch);
