@@ -1,5 +1,6 @@
 #include "views/symbols/PixelAlignedImage.h"
 
+#include <QPainter>
 #include <QQuickWindow>
 
 #include <cmath>
@@ -7,53 +8,67 @@
 namespace drossbin {
 namespace {
 
-/// What takes the node's parent into the window.
-QMatrix4x4 wayToWindow(const QSGNode* parent) {
-    QMatrix4x4 way;
-    for (const QSGNode* node = parent; node; node = node->parent()) {
-        if (node->type() == QSGNode::TransformNodeType) {
-            way = static_cast<const QSGTransformNode*>(node)->matrix() * way;
+/// The fewest points that hold so many pixels and are whole pixels themselves, as far as the ratio
+/// has such. Painted items are whole points wide.
+int pointsFor(int pixels, qreal ratio) {
+    constexpr int farEnough = 8;
+    const int least = qCeil(pixels / ratio);
+    for (int points = least; points < least + farEnough; ++points) {
+        if (points * ratio == std::floor(points * ratio)) {
+            return points;
         }
     }
-    return way;
+    return least;
 }
 
-/// Whether it only moves things. What is scaled or turned has no whole pixels to lie on.
-bool isMove(const QMatrix4x4& way) {
-    return way(0, 0) == 1 && way(1, 1) == 1 && way(0, 1) == 0 && way(1, 0) == 0;
+QPointF rounded(const QPointF& point) {
+    return {std::round(point.x()), std::round(point.y())};
 }
 
 } // namespace
 
-PixelAlignedImage::PixelAlignedImage(const QQuickWindow& window)
-    : m_image(window.createImageNode()) {
-    setFlag(UsePreprocess);
-    m_image->setOwnsTexture(true);
-    appendChildNode(m_image.get());
+PixelAlignedImage::PixelAlignedImage(QQuickItem* parent)
+    : QQuickPaintedItem(parent) {}
+
+void PixelAlignedImage::show(const QImage& image) {
+    m_image = image;
+    setVisible(!image.isNull());
+    if (!image.isNull()) {
+        const qreal ratio = window()->effectiveDevicePixelRatio();
+        setSize(QSizeF(pointsFor(image.width(), ratio), pointsFor(image.height(), ratio)));
+        update();
+    }
 }
 
-void PixelAlignedImage::show(const QImage& image, const QPointF& center,
-                             const QQuickWindow& window) {
-    m_ratio = window.effectiveDevicePixelRatio();
-    QRectF place({}, QSizeF(image.size()) / m_ratio);
-    place.moveCenter(center);
-    m_image->setTexture(window.createTextureFromImage(image, QQuickWindow::TextureCanUseAtlas));
-    m_image->setSourceRect(image.rect());
-    m_image->setRect(place);
+void PixelAlignedImage::paint(QPainter* painter) {
+    painter->resetTransform();
+    painter->drawImage(0, 0, m_image);
 }
 
-void PixelAlignedImage::preprocess() {
-    const QMatrix4x4 way = wayToWindow(parent());
-    QMatrix4x4 nudge;
-    if (isMove(way)) {
-        const QPointF corner = way.map(m_image->rect().topLeft()) * m_ratio;
-        nudge.translate(float((std::round(corner.x()) - corner.x()) / m_ratio),
-                        float((std::round(corner.y()) - corner.y()) / m_ratio));
+void PixelAlignedImage::itemChange(ItemChange change, const ItemChangeData& data) {
+    if (change == ItemSceneChange) {
+        disconnect(m_frames);
+        if (data.window) {
+            m_frames = connect(data.window, &QQuickWindow::afterAnimating, this,
+                               &PixelAlignedImage::align);
+        }
     }
-    m_image->setFiltering(isMove(way) ? QSGTexture::Nearest : QSGTexture::Linear);
-    if (nudge != matrix()) {
-        setMatrix(nudge);
+    QQuickPaintedItem::itemChange(change, data);
+}
+
+void PixelAlignedImage::align() {
+    const qreal ratio = window()->effectiveDevicePixelRatio();
+    const QSizeF size = QSizeF(m_image.size()) / ratio;
+    QPointF place((parentItem()->width() - size.width()) / 2,
+                  (parentItem()->height() - size.height()) / 2);
+    const QTransform way = parentItem()->itemTransform(nullptr, nullptr);
+    // What is scaled or turned has no whole pixels to lie on.
+    const bool isMoved = way.type() <= QTransform::TxTranslate;
+    if (isMoved) {
+        place += rounded(way.map(place) * ratio) / ratio - way.map(place);
     }
+    setPosition(place);
+    setSmooth(!isMoved);
 }
 
 } // namespace drossbin

@@ -1,27 +1,30 @@
 #pragma once
 
 #include <QImage>
-#include <QSGImageNode>
-#include <QSGTransformNode>
-
-#include <memory>
-
-class QQuickWindow;
+#include <QQuickPaintedItem>
 
 namespace drossbin {
 
-/// An image whose pixels are pixels of the screen. Its own transform takes it to the nearest whole
-/// ones before every frame, for nobody tells an item that one of its ancestors has moved.
-class PixelAlignedImage : public QSGTransformNode {
-  public:
-    explicit PixelAlignedImage(const QQuickWindow& window);
+/// An image in the middle of its parent whose pixels are pixels of the screen. It moves to the
+/// nearest whole ones before every frame, for nobody tells an item that one of its ancestors has
+/// moved.
+class PixelAlignedImage : public QQuickPaintedItem {
+    Q_OBJECT
 
-    void show(const QImage& image, const QPointF& center, const QQuickWindow& window);
-    void preprocess() override;
+  public:
+    explicit PixelAlignedImage(QQuickItem* parent);
+
+    void show(const QImage& image);
+    void paint(QPainter* painter) override;
+
+  protected:
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
 
   private:
-    std::unique_ptr<QSGImageNode> m_image;
-    qreal m_ratio = 1;
+    void align();
+
+    QImage m_image;
+    QMetaObject::Connection m_frames;
 };
 
 } // namespace drossbin

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "views/symbols/PixelAlignedImage.h"
+
 #include <QColor>
-#include <QImage>
 #include <QQuickItem>
+#include <QString>
 #include <QtQml/qqmlregistration.h>
 
 namespace drossbin {
@@ -27,14 +29,13 @@ class SymbolItem : public QQuickItem {
   protected:
     void itemChange(ItemChange change, const ItemChangeData& data) override;
     void updatePolish() override;
-    QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
 
   private:
     QString m_name;
     QColor m_color;
     int m_size = 0;
     bool m_isHeavy = false;
-    QImage m_image;
+    PixelAlignedImage m_image{this};
 };
 
 } // namespace drossbin

@@ -90,6 +90,14 @@ TestCase {
         compare(ink(), []);
     }
 
+    function test_one_that_is_made_while_hidden_is_there_when_shown() {
+        const box = createTemporaryQmlObject("import QtQuick; Item { visible: false }", stage);
+        createTemporaryObject(symbol, box, {});
+        waitForRendering(test, 100);
+        box.visible = true;
+        tryVerify(() => ink().length > 0);
+    }
+
     function test_is_as_large_as_asked_for() {
         const made = make({ size: 56 });
         compare(Qt.size(made.width, made.height), Qt.size(56, 56));
@@ -113,14 +121,17 @@ TestCase {
         const sharp = ink();
         made.x = data.x;
         made.y = data.y;
+        waitForRendering(test, 100);
         compare(ink(), sharp);
     }
 
     function test_lies_on_whole_pixels_also_when_an_ancestor_moves() {
         const box = createTemporaryQmlObject("import QtQuick; Item { x: 20; y: 20 }", stage);
         createTemporaryObject(symbol, box, { size: 16 });
+        waitForRendering(test, 100);
         const sharp = ink();
         box.y = 20.4;
+        waitForRendering(test, 100);
         compare(ink(), sharp);
     }
 
