@@ -13,7 +13,7 @@ ContentView::ContentView(QObject* parent)
     : ContentView(Services::real(), parent) {}
 
 ContentView::ContentView(Services services, QObject* parent)
-    : ScreenState(parent)
+    : QObject(parent)
     , m_services(std::move(services))
     , m_items(m_scanResult)
     , m_selectedItems(m_scanResult)
@@ -155,25 +155,8 @@ void ContentView::refresh() {
         m_selectedItems.restart(itemsToDelete());
     }
     m_deletionLog.refresh(m_scanResult.deletionLog);
-    show(Snapshot::of(m_scanResult, m_survey, m_selectedCategory, m_diskSpace));
-    announceChoices();
-}
-
-void ContentView::announceChoices() {
-    const Choices last = std::exchange(
-        m_announced, {screen(), showConfirmation(), searchText(), selectedCategory()});
-    if (last.screen != m_announced.screen) {
-        emit screenChanged();
-    }
-    if (last.showConfirmation != m_announced.showConfirmation) {
-        emit showConfirmationChanged();
-    }
-    if (last.searchText != m_announced.searchText) {
-        emit searchTextChanged();
-    }
-    if (last.selectedCategory != m_announced.selectedCategory) {
-        emit selectedCategoryChanged();
-    }
+    m_shown = Snapshot::of(m_scanResult, m_survey, m_selectedCategory, m_diskSpace);
+    emit shownChanged();
 }
 
 } // namespace drossbin

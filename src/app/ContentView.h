@@ -5,8 +5,8 @@
 #include "app/ItemSurvey.h"
 #include "app/LogLinesModel.h"
 #include "app/MotionPreference.h"
-#include "app/ScreenState.h"
 #include "app/Services.h"
+#include "app/Snapshot.h"
 
 #include <QCoroTask>
 
@@ -15,14 +15,14 @@ namespace drossbin {
 /// The root of the screens: owns the session's state, decides which screen is shown, and runs the
 /// scan and the deletion. However many changes the state announces, the screens read it once, on
 /// the next turn of the event loop. It must outlive the runs that it started.
-class ContentView : public drossbin::ScreenState {
+class ContentView : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(Screen screen READ screen NOTIFY screenChanged)
-    Q_PROPERTY(bool showConfirmation READ showConfirmation NOTIFY showConfirmationChanged)
-    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
-    Q_PROPERTY(int selectedCategory READ selectedCategory WRITE setSelectedCategory NOTIFY
-                   selectedCategoryChanged)
+    Q_PROPERTY(drossbin::Snapshot shown READ shown NOTIFY shownChanged)
+    Q_PROPERTY(Screen screen READ screen NOTIFY shownChanged)
+    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY shownChanged)
+    Q_PROPERTY(
+        int selectedCategory READ selectedCategory WRITE setSelectedCategory NOTIFY shownChanged)
     Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY reducesMotionChanged)
     Q_PROPERTY(drossbin::CategoryListModel* categories READ categories CONSTANT)
     Q_PROPERTY(drossbin::ItemListModel* items READ items CONSTANT)
@@ -36,8 +36,8 @@ class ContentView : public drossbin::ScreenState {
     explicit ContentView(QObject* parent = nullptr);
     explicit ContentView(Services services, QObject* parent = nullptr);
 
+    [[nodiscard]] const Snapshot& shown() const { return m_shown; }
     [[nodiscard]] Screen screen() const;
-    [[nodiscard]] bool showConfirmation() const { return m_scanResult.showConfirmation; }
     [[nodiscard]] QString searchText() const;
     void setSearchText(const QString& text);
     /// The category's place in the declared order; -1 for none.
@@ -78,22 +78,13 @@ class ContentView : public drossbin::ScreenState {
     Q_INVOKABLE void askForReducedMotion();
 
   signals:
-    void screenChanged();
-    void showConfirmationChanged();
-    void searchTextChanged();
-    void selectedCategoryChanged();
+    /// Once a turn, whatever changed: who reads a value has a property for it, which tells those
+    /// that did not change.
+    void shownChanged();
     void reducesMotionChanged();
     void closeNow();
 
   private:
-    /// What the screens both read and write, or are chosen by.
-    struct Choices {
-        Screen screen = Landing;
-        bool showConfirmation = false;
-        QString searchText;
-        int selectedCategory = -1;
-    };
-
     /// Whether a run or a sheet has the screen, so that no other may begin.
     [[nodiscard]] bool isBusy() const;
 
@@ -109,7 +100,6 @@ class ContentView : public drossbin::ScreenState {
     void noteChange(ScanResult::Field field);
     void queueRefresh();
     void refresh();
-    void announceChoices();
 
     Services m_services;
     ScanResult m_scanResult;
@@ -122,7 +112,7 @@ class ContentView : public drossbin::ScreenState {
     ItemSurvey m_survey;
     bool m_isSurveyStale = false;
     bool m_isRefreshQueued = false;
-    Choices m_announced;
+    Snapshot m_shown;
     CategoryListModel m_categories;
     ItemListModel m_items;
     ItemListModel m_selectedItems;

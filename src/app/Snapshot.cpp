@@ -26,6 +26,7 @@ void describeProgress(const ScanResult& result, Snapshot& snapshot) {
     snapshot.isDeleting = result.isDeleting;
     snapshot.deleteProgress = result.deleteProgress;
     snapshot.deletePercentText = percentText(result.deleteProgress);
+    snapshot.showConfirmation = result.showConfirmation;
     snapshot.showDeletionComplete = result.showDeletionComplete;
     snapshot.freedSpaceText = sizeText(result.freedSpace);
 }

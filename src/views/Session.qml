@@ -8,7 +8,7 @@ ResultsShell {
 
     required property ContentView content
 
-    canScan: !session.content.isScanning
+    canScan: !session.content.shown.isScanning
     onScan: session.content.startScan(session.content.optionHeld())
     onEscaped: session.content.goBack()
 
@@ -16,20 +16,20 @@ ResultsShell {
         anchors.fill: parent
         categories: session.content.categories
         selectedCategory: session.content.selectedCategory
-        meterCaption: session.content.meterCaption
-        meterText: session.content.meterText
-        isReclaiming: session.content.isReclaiming
-        foundShare: session.content.foundShare
-        selectedShare: session.content.selectedShare
+        meterCaption: session.content.shown.meterCaption
+        meterText: session.content.shown.meterText
+        isReclaiming: session.content.shown.isReclaiming
+        foundShare: session.content.shown.foundShare
+        selectedShare: session.content.shown.selectedShare
         onPicked: category => session.content.selectedCategory = category
     }
 
     ScanProgressView {
         anchors.fill: parent
         visible: session.content.screen === ContentView.Scanning
-        progress: session.content.scanProgress
-        bytesFoundText: session.content.bytesFoundText
-        currentTask: session.content.currentTask
+        progress: session.content.shown.scanProgress
+        bytesFoundText: session.content.shown.bytesFoundText
+        currentTask: session.content.shown.currentTask
     }
 
     EmptyStateView {
@@ -41,9 +41,9 @@ ResultsShell {
     OverviewView {
         anchors.fill: parent
         visible: session.content.screen === ContentView.Overview
-        totalSummary: session.content.totalSummary
-        hasSelection: session.content.hasSelection
-        deleteLabel: session.content.deleteLabel
+        totalSummary: session.content.shown.totalSummary
+        hasSelection: session.content.shown.hasSelection
+        deleteLabel: session.content.shown.deleteLabel
         categories: session.content.categories
         onSmartSelect: session.content.smartSelect()
         onDeletionRequested: session.content.requestDeletion()
@@ -53,16 +53,16 @@ ResultsShell {
     CategoryListView {
         anchors.fill: parent
         visible: session.content.screen === ContentView.Category
-        name: session.content.categoryName
-        icon: session.content.categoryIcon
-        subtitle: session.content.categorySubtitle
-        sizeText: session.content.categorySizeText
-        categorySummary: session.content.categorySelectionSummary
+        name: session.content.shown.categoryName
+        icon: session.content.shown.categoryIcon
+        subtitle: session.content.shown.categorySubtitle
+        sizeText: session.content.shown.categorySizeText
+        categorySummary: session.content.shown.categorySelectionSummary
         searchText: session.content.searchText
         items: session.content.items
-        hasSelection: session.content.hasSelection
-        hasBrowserData: session.content.hasBrowserData
-        overallSummary: session.content.selectionSummary
+        hasSelection: session.content.shown.hasSelection
+        hasBrowserData: session.content.shown.hasBrowserData
+        overallSummary: session.content.shown.selectionSummary
         onSelectAllPressed: session.content.selectAllInCategory()
         onDeselectAllPressed: session.content.deselectAllInCategory()
         onSearchEdited: text => session.content.searchText = text

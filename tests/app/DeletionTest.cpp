@@ -53,7 +53,7 @@ struct Deletion : ::testing::Test {
     void waitForTheEnd() {
         gate.release();
         test::settle();
-        EXPECT_FALSE(view.isDeleting());
+        EXPECT_FALSE(view.shown().isDeleting);
     }
 
     QSemaphore gate;
@@ -89,7 +89,7 @@ TEST_F(Deletion, can_be_of_nothing_at_all) {
     askAndConfirm();
     waitForTheEnd();
     EXPECT_THAT(deleted, IsEmpty());
-    EXPECT_TRUE(view.showDeletionComplete());
+    EXPECT_TRUE(view.shown().showDeletionComplete);
 }
 
 TEST_F(Deletion, leaves_the_items_in_the_list_and_selected_until_dismissed) {
@@ -103,18 +103,18 @@ TEST_F(Deletion, leaves_the_items_in_the_list_and_selected_until_dismissed) {
 TEST_F(Deletion, shows_what_was_freed_and_the_log) {
     askAndConfirm();
     waitForTheEnd();
-    EXPECT_TRUE(view.showDeletionComplete());
-    EXPECT_EQ(view.freedSpaceText(), "40 bytes");
+    EXPECT_TRUE(view.shown().showDeletionComplete);
+    EXPECT_EQ(view.shown().freedSpaceText, "40 bytes");
     EXPECT_EQ(view.deletionLog()->rowCount(), 2);
 }
 
 TEST_F(Deletion, shows_its_progress_while_it_runs) {
     askAndConfirm();
-    EXPECT_TRUE(turnUntil([this] { return view.deleteProgress() == 0.5; }));
-    EXPECT_TRUE(view.isDeleting());
-    EXPECT_EQ(view.deletePercentText(), "50%");
+    EXPECT_TRUE(turnUntil([this] { return view.shown().deleteProgress == 0.5; }));
+    EXPECT_TRUE(view.shown().isDeleting);
+    EXPECT_EQ(view.shown().deletePercentText, "50%");
     waitForTheEnd();
-    EXPECT_FALSE(view.isDeleting());
+    EXPECT_FALSE(view.shown().isDeleting);
 }
 
 TEST_F(Deletion, is_not_started_a_second_time_while_one_runs) {
@@ -147,7 +147,7 @@ TEST_F(Deletion, is_not_confirmed_while_a_scan_runs) {
     view.scanResult().isScanning = true;
     view.confirmDeletion();
     EXPECT_FALSE(view.scanResult().isDeleting.get());
-    EXPECT_TRUE(view.showConfirmation());
+    EXPECT_TRUE(view.scanResult().showConfirmation);
     view.scanResult().isScanning = false;
     view.confirmDeletion();
     waitForTheEnd();
@@ -160,11 +160,11 @@ TEST_F(Deletion, is_asked_for_only_while_nothing_else_has_the_screen) {
          {&result.isScanning, &result.isDeleting, &result.showDeletionComplete}) {
         *flag = true;
         view.requestDeletion();
-        EXPECT_FALSE(view.showConfirmation());
+        EXPECT_FALSE(view.scanResult().showConfirmation);
         *flag = false;
     }
     view.requestDeletion();
-    EXPECT_TRUE(view.showConfirmation());
+    EXPECT_TRUE(view.scanResult().showConfirmation);
 }
 
 TEST_F(Deletion, is_not_asked_for_by_a_second_press_on_done) {
@@ -172,7 +172,7 @@ TEST_F(Deletion, is_not_asked_for_by_a_second_press_on_done) {
     waitForTheEnd();
     view.dismissCompletion();
     view.requestDeletion();
-    EXPECT_FALSE(view.showConfirmation());
+    EXPECT_FALSE(view.scanResult().showConfirmation);
     test::settle();
     EXPECT_EQ(scans, 1);
 }
@@ -215,7 +215,7 @@ TEST_F(Deletion, is_asked_for_by_raising_the_confirmation_and_nothing_else) {
     test::Recorder recorder(view.scanResult());
     view.requestDeletion();
     EXPECT_THAT(recorder.take(), ElementsAre("showConfirmation=true"));
-    EXPECT_TRUE(view.showConfirmation());
+    EXPECT_TRUE(view.scanResult().showConfirmation);
     EXPECT_THAT(deleted, IsEmpty());
 }
 
@@ -224,7 +224,7 @@ TEST_F(Deletion, is_cancelled_by_lowering_the_confirmation_and_nothing_else) {
     test::Recorder recorder(view.scanResult());
     view.cancelDeletion();
     EXPECT_THAT(recorder.take(), ElementsAre("showConfirmation=false"));
-    EXPECT_FALSE(view.showConfirmation());
+    EXPECT_FALSE(view.scanResult().showConfirmation);
 }
 
 } // namespace

@@ -84,13 +84,13 @@ TEST(Scan, shows_each_report_while_it_still_runs) {
     };
     ContentView view(services);
     view.startScan(false);
-    EXPECT_TRUE(turnUntil([&view] { return view.scanProgress() == 0.25; }));
-    EXPECT_EQ(view.currentTask(), "Scanning app data...");
-    EXPECT_EQ(view.bytesFoundText(), "1 MB");
-    EXPECT_TRUE(view.isScanning());
+    EXPECT_TRUE(turnUntil([&view] { return view.shown().scanProgress == 0.25; }));
+    EXPECT_EQ(view.shown().currentTask, "Scanning app data...");
+    EXPECT_EQ(view.shown().bytesFoundText, "1 MB");
+    EXPECT_TRUE(view.shown().isScanning);
     gate.release();
     test::settle();
-    EXPECT_FALSE(view.isScanning());
+    EXPECT_FALSE(view.shown().isScanning);
 }
 
 TEST(Scan, keeps_the_event_loop_turning) {

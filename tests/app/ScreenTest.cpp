@@ -82,9 +82,9 @@ TEST_F(Screen, takes_a_place_beyond_the_categories_for_none) {
 }
 
 TEST_F(Screen, starts_without_sheets_category_or_search_text) {
-    EXPECT_FALSE(view.showConfirmation());
-    EXPECT_FALSE(view.showDeletionComplete());
-    EXPECT_FALSE(view.isDeleting());
+    EXPECT_FALSE(view.scanResult().showConfirmation);
+    EXPECT_FALSE(view.shown().showDeletionComplete);
+    EXPECT_FALSE(view.shown().isDeleting);
     EXPECT_EQ(view.selectedCategory(), -1);
     EXPECT_EQ(view.searchText(), "");
     EXPECT_FALSE(view.reducesMotion());

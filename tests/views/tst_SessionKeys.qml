@@ -72,9 +72,9 @@ Item {
 
             /// All that a key could change.
             function look(): string {
-                const sheet = state.showConfirmation ? "asking" : state.isDeleting ? "deleting" : state.showDeletionComplete ? "done" : "";
+                const sheet = state.shown.showConfirmation ? "asking" : state.shown.isDeleting ? "deleting" : state.shown.showDeletionComplete ? "done" : "";
                 const screen = ["landing", "scanning", "empty", "overview", "category"][state.screen];
-                return [screen, state.selectedCategory, state.selectionSummary, state.searchText, sheet].join(", ");
+                return [screen, state.selectedCategory, state.shown.selectionSummary, state.searchText, sheet].join(", ");
             }
 
             /// Has the control of that name pressed by the keyboard.

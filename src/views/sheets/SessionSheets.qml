@@ -7,7 +7,7 @@ Item {
     id: sheets
 
     required property ContentView content
-    readonly property bool isAnyShown: sheets.content.showConfirmation || sheets.content.isDeleting || sheets.content.showDeletionComplete
+    readonly property bool isAnyShown: sheets.content.shown.showConfirmation || sheets.content.shown.isDeleting || sheets.content.shown.showDeletionComplete
 
     Rectangle {
         parent: sheets.Window.contentItem
@@ -27,16 +27,16 @@ Item {
     Sheet {
         id: confirmation
 
-        shown: sheets.content.showConfirmation
-        name: sheets.content.confirmationTitle
+        shown: sheets.content.shown.showConfirmation
+        name: sheets.content.shown.confirmationTitle
         onEscaped: sheets.content.cancelDeletion()
 
         DeletionConfirmView {
             focus: true
             tallest: confirmation.tallest
-            title: sheets.content.confirmationTitle
-            selectedSizeText: sheets.content.selectedSizeText
-            hasBrowserItems: sheets.content.hasBrowserData
+            title: sheets.content.shown.confirmationTitle
+            selectedSizeText: sheets.content.shown.selectedSizeText
+            hasBrowserItems: sheets.content.shown.hasBrowserData
             selectedItems: sheets.content.selectedItems
             onConfirmed: sheets.content.confirmDeletion()
             onCancelled: sheets.content.cancelDeletion()
@@ -45,28 +45,28 @@ Item {
 
     // Nothing but the deletion's end closes this one.
     Sheet {
-        shown: sheets.content.isDeleting
+        shown: sheets.content.shown.isDeleting
         name: "Deleting files..."
 
         DeletionProgressView {
             focus: true
-            progress: sheets.content.deleteProgress
-            percentText: sheets.content.deletePercentText
+            progress: sheets.content.shown.deleteProgress
+            percentText: sheets.content.shown.deletePercentText
         }
     }
 
     Sheet {
         id: completion
 
-        shown: sheets.content.showDeletionComplete
+        shown: sheets.content.shown.showDeletionComplete
         name: "Cleanup Complete!"
-        description: `You freed ${sheets.content.freedSpaceText}\n${sheets.content.deletionLog.failure}`.trim()
+        description: `You freed ${sheets.content.shown.freedSpaceText}\n${sheets.content.deletionLog.failure}`.trim()
         onEscaped: sheets.content.dismissCompletion()
 
         DeletionCompleteView {
             focus: true
             tallest: completion.tallest
-            freedSpaceText: sheets.content.freedSpaceText
+            freedSpaceText: sheets.content.shown.freedSpaceText
             log: sheets.content.deletionLog
             firstFailure: sheets.content.deletionLog.firstFailure
             onDismissed: sheets.content.dismissCompletion()

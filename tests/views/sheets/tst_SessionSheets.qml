@@ -59,7 +59,7 @@ Item {
                 test.made = sheets.createObject(test, { content: content });
                 content.startScan(true);
                 content.smartSelect();
-                tryCompare(content, "hasSelection", true);
+                tryVerify(() => content.shown.hasSelection);
                 return content;
             }
 
@@ -241,15 +241,15 @@ Item {
                 content.requestDeletion();
                 open("Delete 15 items?");
                 keyClick(Qt.Key_Escape);
-                tryCompare(content, "showConfirmation", false);
-                compare(content.isDeleting, false);
+                tryVerify(() => !content.shown.showConfirmation);
+                compare(content.shown.isDeleting, false);
                 closed("Delete 15 items?");
             }
 
             function test_escape_does_nothing_on_the_progress() {
                 const content = confirmed();
                 keyClick(Qt.Key_Escape);
-                compare(content.isDeleting, true);
+                compare(content.shown.isDeleting, true);
                 compare(sheet("Deleting files...").activeFocus, true);
                 content.finish();
             }
@@ -259,7 +259,7 @@ Item {
                 content.finish();
                 open("Cleanup Complete!");
                 keyClick(Qt.Key_Escape);
-                tryCompare(content, "showDeletionComplete", false);
+                tryVerify(() => !content.shown.showDeletionComplete);
                 compare(content.screen, ContentView.Scanning);
                 content.finish();
             }
