@@ -5,7 +5,9 @@
 #include <unicode/numberformatter.h>
 #include <unicode/unistr.h>
 
+#include <algorithm>
 #include <array>
+#include <limits>
 #include <string_view>
 
 namespace drossbin {
@@ -13,63 +15,52 @@ namespace drossbin {
 namespace {
 
 struct Unit {
-    std::uint64_t lastPlace; ///< bytes that the last decimal place shown stands for
+    std::uint64_t limit; ///< bytes that are rounded, half to even, to 1,000 of it
+    int power;           ///< of ten, in bytes
     int decimals;
     const char* identifier; ///< among ICU's units
     std::string_view english;
 };
 
-constexpr Unit byte{1, 0, "byte", "bytes"};
-constexpr Unit kilobyte{1'000, 0, "kilobyte", "KB"};
-constexpr Unit exabyte{10'000'000'000'000'000, 2, "exabyte", "EB"};
+constexpr Unit byte{1'000, 0, 0, "byte", "bytes"};
+constexpr Unit kilobyte{999'500, 3, 0, "kilobyte", "KB"};
+constexpr Unit exabyte{std::numeric_limits<std::uint64_t>::max(), 18, 2, "exabyte", "EB"};
 constexpr std::array units{byte,
                            kilobyte,
-                           Unit{100'000, 1, "megabyte", "MB"},
-                           Unit{10'000'000, 2, "gigabyte", "GB"},
-                           Unit{10'000'000'000, 2, "terabyte", "TB"},
-                           Unit{10'000'000'000'000, 2, "petabyte", "PB"},
+                           Unit{999'950'000, 6, 1, "megabyte", "MB"},
+                           Unit{999'995'000'000, 9, 2, "gigabyte", "GB"},
+                           Unit{999'995'000'000'000, 12, 2, "terabyte", "TB"},
+                           Unit{999'995'000'000'000'000, 15, 2, "petabyte", "PB"},
                            exabyte};
 
 struct Amount {
-    std::int64_t places; ///< counted in the unit's last decimal place
+    std::int64_t bytes;
     Unit unit;
 };
 
-/// Exact in integers: a double cannot tell 2.5 from its neighbours at these magnitudes.
-std::uint64_t dividedHalfToEven(std::uint64_t value, std::uint64_t divisor) {
-    const std::uint64_t quotient = value / divisor;
-    const std::uint64_t twice = value % divisor * 2;
-    const bool roundsUp = twice > divisor || (twice == divisor && quotient % 2 == 1);
-    return quotient + (roundsUp ? 1 : 0);
-}
-
-/// `bytes` in the first unit in which it rounds to less than 1,000.
 Amount amountOf(std::int64_t bytes) {
+    if (bytes == 0) {
+        return {bytes, kilobyte};
+    }
     const auto bits = static_cast<std::uint64_t>(bytes);
     const std::uint64_t magnitude = bytes < 0 ? 0 - bits : bits;
-    constexpr std::array<std::uint64_t, 3> thousand{1'000, 10'000, 100'000};
-    const Unit* unit = units.data();
-    std::uint64_t places = magnitude;
-    while (places >= thousand.at(static_cast<std::size_t>(unit->decimals))) {
-        ++unit;
-        places = dividedHalfToEven(magnitude, unit->lastPlace);
-    }
-    const auto signedPlaces = static_cast<std::int64_t>(places);
-    return {bytes < 0 ? -signedPlaces : signedPlaces, *unit};
+    return {bytes, *std::ranges::find_if(
+                       units, [magnitude](const Unit& unit) { return magnitude < unit.limit; })};
 }
 
+/// Rounds half to even, exactly: ICU counts in decimal places.
 icu::number::LocalizedNumberFormatter numberFormatter(const Amount& amount,
                                                       const icu::Locale& locale) {
     return icu::number::NumberFormatter::withLocale(locale)
-        .scale(icu::number::Scale::powerOfTen(-amount.unit.decimals))
+        .scale(icu::number::Scale::powerOfTen(-amount.unit.power))
         .precision(icu::number::Precision::maxFraction(amount.unit.decimals));
 }
 
 icu::UnicodeString inEnglish(const Amount& amount, const icu::Locale& locale, UErrorCode& status) {
-    const bool isOneByte = amount.unit.lastPlace == byte.lastPlace && std::abs(amount.places) == 1;
+    const bool isOneByte = amount.bytes == 1 || amount.bytes == -1;
     const std::string_view unit = isOneByte ? "byte" : amount.unit.english;
     return numberFormatter(amount, locale)
-        .formatInt(amount.places, status)
+        .formatInt(amount.bytes, status)
         .toString(status)
         .append(u' ')
         .append(icu::UnicodeString::fromUTF8({unit.data(), static_cast<int32_t>(unit.size())}));
@@ -80,13 +71,13 @@ icu::UnicodeString withUnit(const Amount& amount, const char* identifier, const 
     return numberFormatter(amount, locale)
         .unit(icu::MeasureUnit::forIdentifier(identifier, status))
         .unitWidth(UNUM_UNIT_WIDTH_SHORT)
-        .formatInt(amount.places, status)
+        .formatInt(amount.bytes, status)
         .toString(status);
 }
 
 icu::UnicodeString inOtherLanguage(const Amount& amount, const icu::Locale& locale,
                                    UErrorCode& status) {
-    if (amount.unit.lastPlace != exabyte.lastPlace) {
+    if (amount.unit.power != exabyte.power) {
         return withUnit(amount, amount.unit.identifier, locale, status);
     }
     // CLDR names no exabyte, and ICU's makeshift reads "Ebyte": where the petabyte is "PB", people
@@ -104,7 +95,7 @@ std::string ByteCountFormatter::string(std::int64_t bytes, const Locale& locale)
     if (bytes == 0 && isEnglish) {
         return "Zero KB";
     }
-    const Amount amount = bytes == 0 ? Amount{0, kilobyte} : amountOf(bytes);
+    const Amount amount = amountOf(bytes);
     UErrorCode status = U_ZERO_ERROR;
     std::string text;
     (isEnglish ? inEnglish(amount, icuLocale, status) : inOtherLanguage(amount, icuLocale, status))
