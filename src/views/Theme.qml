@@ -79,8 +79,11 @@ QtObject {
 
     // Spacing scale
     readonly property int space2: 2
+    readonly property int space3: 3
     readonly property int space4: 4
+    readonly property int space6: 6
     readonly property int space8: 8
+    readonly property int space10: 10
     readonly property int space12: 12
     readonly property int space16: 16
     readonly property int space20: 20
@@ -88,13 +91,26 @@ QtObject {
     readonly property int space32: 32
     /// How high the top of both columns is: what stands in it has its middle in one line.
     readonly property int topLine: 64
+    /// What symbols and check boxes stand in the middle of.
+    readonly property int frame: 20
     /// How far apart the lines of a log are.
     readonly property int logPitch: 18
+
+    /// A length rounded up to what is whole in pixels at 125, 150 and 175 % too.
+    function onWholePixels(length: real): real {
+        return Math.ceil(length / 4) * 4;
+    }
 
     /// The room above what is so high, for its middle to be that of the top line.
     function topRoom(height: real): real {
         return Math.round((theme.topLine - height) / 2);
     }
+
+    // Corners
+    readonly property int cornerSmall: 6
+    readonly property int corner: 8
+    readonly property int cornerMedium: 10
+    readonly property int cornerLarge: 12
 
     // Shadows: how far they reach, in what steps, and how far below they lie
     readonly property int shadowSpread: 20

@@ -11,7 +11,7 @@ ColumnLayout {
     required property string sizeText
     readonly property real firstLine: line.implicitHeight
 
-    spacing: 4
+    spacing: Theme.space4
 
     Row {
         id: line

@@ -99,7 +99,7 @@ Scene {
             Layout.margins: Theme.space16
             Layout.topMargin: Theme.space12
             // So that the rows begin on a whole pixel at 125, 150 and 175 % too.
-            Layout.bottomMargin: Math.ceil((y + height + Theme.space12 + line.height) / 4) * 4 - y - height - line.height
+            Layout.bottomMargin: Theme.onWholePixels(y + height + Theme.space12 + line.height) - y - height - line.height
             searchText: pane.searchText
             onEdited: text => pane.searchEdited(text)
             onMovedDown: list.enter()

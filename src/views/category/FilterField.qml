@@ -22,11 +22,11 @@ FocusScope {
     }
 
     implicitWidth: 240
-    implicitHeight: content.implicitHeight + 12
+    implicitHeight: content.implicitHeight + 2 * Theme.space6
 
     Rectangle {
         anchors.fill: parent
-        radius: 8
+        radius: Theme.corner
         color: Theme.tinted(Theme.quaternary, 0.5)
         border.width: 1
         border.color: Theme.divider
@@ -45,8 +45,8 @@ FocusScope {
         id: content
 
         anchors.fill: parent
-        anchors.margins: 6
-        spacing: 6
+        anchors.margins: Theme.space6
+        spacing: Theme.space6
 
         Symbol {
             name: "magnifyingglass"

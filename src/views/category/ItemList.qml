@@ -57,9 +57,9 @@ RowsView {
             list.toggled(list.currentIndex);
     }
 
-    topMargin: 4
-    bottomMargin: 4
-    spacing: 2
+    topMargin: Theme.space4
+    bottomMargin: Theme.space4
+    spacing: Theme.space2
     highlightMoveDuration: 0
     activeFocusOnTab: list.count > 0 && !(list.currentRow?.enabled ?? false)
     keyNavigationEnabled: false
@@ -89,8 +89,8 @@ RowsView {
                 ReadingOrder.put(list.currentItem, row, null);
         }
 
-        x: 8
-        width: list.width - 16
+        x: Theme.space8
+        width: list.width - 2 * Theme.space8
         isCurrent: ListView.isCurrentItem
         onIsMovingChanged: row.closeInfo()
         onClicked: list.currentIndex = row.index

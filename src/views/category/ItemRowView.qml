@@ -20,11 +20,16 @@ T.ItemDelegate {
     /// Whether the keyboard is in this row: only then its controls are reached with Tab.
     property bool isCurrent: false
     readonly property bool showInfo: information.showInfo
-    /// What is left for the name beside all that always stays there. It keeps 140: before it gets
-    /// less, first the date goes (70 and the space before it), then the words of the badge (80 at most).
-    readonly property real room: row.width - 243
-    readonly property bool showsRisk: row.room >= 140 + 80
-    readonly property bool showsDate: row.room >= 140 + 80 + 82
+    // Before the name gets less than its least, first the date goes, then the words of the badge.
+    readonly property int leastName: 140
+    readonly property int widestRisk: 80
+    readonly property int dateWidth: 70
+    readonly property int sizeWidth: 80
+    /// What is left for the name beside all that always stays there: check box, symbol, information,
+    /// the badge's symbol and the size.
+    readonly property real room: row.width - row.leftPadding - row.rightPadding - 3 * Theme.frame - badge.narrowest - row.sizeWidth - 5 * row.spacing
+    readonly property bool showsRisk: row.room >= row.leastName + row.widestRisk
+    readonly property bool showsDate: row.room >= row.leastName + row.widestRisk + row.dateWidth + row.spacing
     /// Why it cannot be selected, if so.
     readonly property string hint: row.isProtected ? "Protected: it may hold passwords, keys or settings, so it cannot be selected" : ""
 
@@ -40,12 +45,11 @@ T.ItemDelegate {
         information.popover?.close();
     }
 
-    // With the 2 between rows a multiple of 4, which is whole in pixels at 125, 150 and 175 % too:
-    // each row then looks like the one above it.
-    implicitHeight: Math.ceil((names.implicitHeight + topPadding + bottomPadding + 2) / 4) * 4 - 2
-    verticalPadding: 4
-    horizontalPadding: 8
-    spacing: 12
+    // With the space between rows on whole pixels: each row then looks like the one above it.
+    implicitHeight: Theme.onWholePixels(names.implicitHeight + topPadding + bottomPadding + Theme.space2) - Theme.space2
+    verticalPadding: Theme.space4
+    horizontalPadding: Theme.space8
+    spacing: Theme.space12
     enabled: !row.isProtected
     opacity: row.isProtected ? 0.4 : 1.0
     focusPolicy: Qt.NoFocus
@@ -60,7 +64,7 @@ T.ItemDelegate {
     Accessible.selected: row.isSelected
 
     background: Rectangle {
-        radius: 8
+        radius: Theme.corner
         color: row.isSelected ? Theme.tinted(Theme.blue, 0.06) : "transparent"
     }
 
@@ -69,7 +73,7 @@ T.ItemDelegate {
         id: check
 
         anchors.left: parent.left
-        width: 20 + row.leftPadding + row.rightPadding
+        width: Theme.frame + row.leftPadding + row.rightPadding
         height: parent.height
         name: row.name
         isSelected: row.isSelected
@@ -90,7 +94,7 @@ T.ItemDelegate {
         SymbolFrame {
             id: frame
 
-            anchors { left: parent.left; leftMargin: 20 + row.spacing; verticalCenter: parent.verticalCenter }
+            anchors { left: parent.left; leftMargin: Theme.frame + row.spacing; verticalCenter: parent.verticalCenter }
             name: row.symbol
         }
 
@@ -103,7 +107,7 @@ T.ItemDelegate {
                 margins: row.spacing
                 verticalCenter: parent.verticalCenter
             }
-            spacing: 3
+            spacing: Theme.space3
 
             PlainLabel {
                 width: parent.width
@@ -142,6 +146,8 @@ T.ItemDelegate {
             }
 
             RiskBadge {
+                id: badge
+
                 anchors.verticalCenter: parent.verticalCenter
                 riskColor: row.riskColor
                 riskLabel: row.riskLabel
@@ -152,7 +158,7 @@ T.ItemDelegate {
             PlainLabel {
                 visible: row.showsDate
                 anchors.verticalCenter: parent.verticalCenter
-                width: 70
+                width: row.dateWidth
                 text: row.dateText
                 color: Theme.secondary
                 font.pixelSize: Theme.caption
@@ -164,7 +170,7 @@ T.ItemDelegate {
 
             Item {
                 anchors.verticalCenter: parent.verticalCenter
-                width: 80
+                width: row.sizeWidth
                 height: size.height
 
                 FigureLabel {

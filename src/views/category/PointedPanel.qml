@@ -9,7 +9,7 @@ Rectangle {
     required property real aim
     required property bool isAbove
 
-    radius: 10
+    radius: Theme.cornerMedium
     color: Theme.sheet
     border.width: 1
     border.color: Theme.outline

@@ -9,9 +9,11 @@ Rectangle {
     required property string riskSymbol
     /// Without it the symbol stands alone.
     property bool showsLabel: true
+    /// How wide it is without its label.
+    readonly property real narrowest: symbol.width + 2 * Theme.space8
 
-    implicitWidth: content.implicitWidth + 16
-    implicitHeight: words.implicitHeight + 6
+    implicitWidth: content.implicitWidth + 2 * Theme.space8
+    implicitHeight: words.implicitHeight + 2 * Theme.space3
     radius: height / 2
     color: Theme.tinted(Theme.riskTint(badge.riskColor), 0.15)
     Accessible.role: Accessible.StaticText
@@ -22,9 +24,11 @@ Rectangle {
         id: content
 
         anchors.centerIn: parent
-        spacing: 3
+        spacing: Theme.space3
 
         Symbol {
+            id: symbol
+
             anchors.verticalCenter: parent.verticalCenter
             name: badge.riskSymbol
             color: Theme.shade(badge.riskColor)

@@ -22,7 +22,7 @@ T.Popup {
     x: Math.round((popover.opener.width - popover.width) / 2)
     y: Math.round(popover.middle + (popover.isAbove ? -popover.distance - popover.height : popover.distance))
     width: 280
-    padding: 16
+    padding: Theme.space16
     margins: Theme.space8
     focus: true
     // The button closes it by itself.

@@ -26,11 +26,11 @@ ColumnLayout {
         readonly property bool isWide: summary.implicitWidth + buttons.implicitWidth + columnSpacing + 2 * Theme.space16 <= bar.width
 
         Layout.fillWidth: true
-        Layout.margins: 12
+        Layout.margins: Theme.space12
         Layout.leftMargin: Theme.space16
         Layout.rightMargin: Theme.space16
         columns: line.isWide ? 2 : 1
-        columnSpacing: 16
+        columnSpacing: Theme.space16
         rowSpacing: Theme.space8
 
         PlainLabel {
@@ -50,7 +50,7 @@ ColumnLayout {
             Layout.alignment: Qt.AlignRight
             Layout.fillWidth: !line.isWide
             Layout.maximumWidth: buttons.implicitWidth
-            spacing: 16
+            spacing: Theme.space16
 
             PillButton {
                 Layout.fillWidth: !line.isWide

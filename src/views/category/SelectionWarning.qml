@@ -21,7 +21,7 @@ Item {
         id: content
 
         width: parent.width
-        height: row.height + 16
+        height: row.height + 2 * Theme.space8
         opacity: warning.reveal
         color: Theme.tinted(Theme.orangeTint, 0.06)
 
@@ -30,7 +30,7 @@ Item {
 
             anchors.centerIn: parent
             width: Math.min(implicitWidth, parent.width - 2 * Theme.space16)
-            spacing: 8
+            spacing: Theme.space8
 
             Symbol {
                 id: symbol

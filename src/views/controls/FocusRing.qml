@@ -4,7 +4,7 @@ import QtQuick
 Rectangle {
     id: ring
 
-    property real corner: Theme.space8
+    property real corner: Theme.corner
     property real gap: 2
 
     anchors.fill: parent

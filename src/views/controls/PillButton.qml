@@ -13,8 +13,8 @@ PressButton {
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    horizontalPadding: 24
-    verticalPadding: 10
+    horizontalPadding: Theme.space24
+    verticalPadding: Theme.space10
     scale: button.down ? 0.95 : 1
 
     Behavior on scale {

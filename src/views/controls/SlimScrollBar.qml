@@ -6,7 +6,7 @@ T.ScrollBar {
     id: bar
 
     implicitWidth: 8
-    padding: 2
+    padding: Theme.space2
     minimumSize: 0.06
     hoverEnabled: true
     visible: bar.size < 1

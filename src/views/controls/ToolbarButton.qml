@@ -14,7 +14,7 @@ PressButton {
     opacity: button.enabled ? 1 : 0.4
 
     background: Rectangle {
-        radius: 8
+        radius: Theme.corner
         color: button.down ? Theme.materialPressed : button.hovered ? Theme.materialHovered : "transparent"
 
         FocusRing {

@@ -58,7 +58,7 @@ Scene {
                 symbol: "magnifyingglass"
                 font.pixelSize: Theme.headline
                 horizontalPadding: 56
-                verticalPadding: 24
+                verticalPadding: Theme.space24
                 onClicked: landing.scan()
             }
         }

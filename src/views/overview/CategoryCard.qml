@@ -20,24 +20,52 @@ PressButton {
     Accessible.description: card.caption
 
     background: Rectangle {
-        radius: 12
+        radius: Theme.cornerLarge
         color: card.down ? Theme.materialPressed : card.hovered ? Theme.materialHovered : Theme.material
         border.width: 1
         border.color: Theme.divider
 
         FocusRing {
             visible: card.visualFocus
-            corner: 12
+            corner: Theme.cornerLarge
         }
     }
 
     contentItem: Column {
         spacing: Theme.space8
 
-        CardHeading {
+        Item {
             width: parent.width
-            symbol: card.symbol
-            countText: card.countText
+            implicitHeight: Math.max(sign.height, capsule.height)
+
+            Symbol {
+                id: sign
+
+                anchors.left: parent.left
+                anchors.verticalCenter: parent.verticalCenter
+                name: card.symbol
+                size: Theme.title2
+                color: Theme.blue
+            }
+
+            Rectangle {
+                id: capsule
+
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                width: count.width + 2 * Theme.space8
+                height: count.height + 2 * Theme.space2
+                radius: height / 2
+                color: Theme.tinted(Theme.blue, 0.1)
+
+                PlainLabel {
+                    id: count
+
+                    anchors.centerIn: parent
+                    text: card.countText
+                    font.pixelSize: Theme.caption
+                }
+            }
         }
 
         PlainLabel {

@@ -9,7 +9,7 @@ Rectangle {
 
     implicitWidth: 440
     implicitHeight: body.implicitHeight + 2 * Theme.space12
-    radius: 10
+    radius: Theme.cornerMedium
     color: Theme.darkMaterial
 
     Symbol {

@@ -5,7 +5,7 @@ Rectangle {
     id: box
 
     implicitHeight: texts.height + 2 * Theme.space12
-    radius: Theme.space8
+    radius: Theme.corner
     color: Theme.tinted(Theme.orangeTint, 0.08)
     border.width: 1
     border.color: Theme.tinted(Theme.orangeTint, 0.5)

@@ -14,7 +14,7 @@ FocusScope {
         id: column
 
         anchors.centerIn: parent
-        spacing: 20
+        spacing: Theme.space20
 
         ProgressRing {
             anchors.horizontalCenter: parent.horizontalCenter

@@ -61,7 +61,7 @@ T.Popup {
     background: Rectangle {
         transform: Translate { y: -sheet.rise }
         color: Theme.sheet
-        radius: 12
+        radius: Theme.cornerLarge
         border.width: 1
         border.color: Theme.outline
 

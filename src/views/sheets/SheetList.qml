@@ -41,7 +41,7 @@ Rectangle {
     }
 
     implicitHeight: panel.needed <= panel.available ? panel.needed : Math.floor(rows.topMargin + (panel.wholeRows + 0.5) * panel.pitch)
-    radius: Theme.space8
+    radius: Theme.corner
     color: Theme.material
 
     FocusRing {

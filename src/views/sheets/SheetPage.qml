@@ -19,11 +19,11 @@ FocusScope {
     property alias model: list.model
     property alias delegate: list.delegate
     property alias buttons: foot.data
-    /// The heights of the heading's parts, each with the 20 below it that it should have.
-    readonly property real said: Array.from(head.children).reduce((sum, part) => part.visible ? sum + part.implicitHeight + 20 : sum, 0)
-    readonly property bool isTight: page.tallest < 24 + page.said + list.least + 20 + foot.implicitHeight + 24
-    readonly property int margin: page.isTight ? 16 : 24
-    readonly property int spacing: page.isTight ? 8 : 20
+    /// The heights of the heading's parts, each with the space below it that it should have.
+    readonly property real said: Array.from(head.children).reduce((sum, part) => part.visible ? sum + part.implicitHeight + Theme.space20 : sum, 0)
+    readonly property bool isTight: page.tallest < Theme.space24 + page.said + list.least + Theme.space20 + foot.implicitHeight + Theme.space24
+    readonly property int margin: page.isTight ? Theme.space16 : Theme.space24
+    readonly property int spacing: page.isTight ? Theme.space8 : Theme.space20
 
     function showRow(row: int): void {
         list.showRow(row);

@@ -18,13 +18,9 @@ T.ItemDelegate {
 
     implicitHeight: names.implicitHeight + topPadding + bottomPadding
     focusPolicy: Qt.NoFocus
-    verticalPadding: 2
-    // What shows that it is picked, and what takes clicks, reaches beyond the row, so that its lines
-    // do not touch the edge.
-    topInset: -3
-    bottomInset: -3
+    verticalPadding: Theme.space2 + Theme.space3
+    hoverEnabled: true
     horizontalPadding: Theme.space8
-    Keys.onSpacePressed: row.picked()
     Keys.onReturnPressed: row.picked()
     Keys.onEnterPressed: row.picked()
     Accessible.role: Accessible.ListItem
@@ -33,10 +29,11 @@ T.ItemDelegate {
     Accessible.selectable: true
     Accessible.selected: row.isCurrent
     Accessible.onPressAction: row.picked()
+    onClicked: row.picked()
 
     background: Rectangle {
-        radius: Theme.space8
-        color: row.isCurrent ? Theme.picked : mouse.pressed ? Theme.materialPressed : mouse.containsMouse ? Theme.materialHovered : "transparent"
+        radius: Theme.corner
+        color: row.isCurrent ? Theme.picked : row.down ? Theme.materialPressed : row.hovered ? Theme.materialHovered : "transparent"
 
         FocusRing {
             visible: row.visualFocus
@@ -66,7 +63,7 @@ T.ItemDelegate {
                 leftMargin: Theme.space8
                 verticalCenter: parent.verticalCenter
             }
-            spacing: 2
+            spacing: Theme.space2
 
             PlainLabel {
                 width: parent.width
@@ -86,16 +83,15 @@ T.ItemDelegate {
         }
     }
 
+    // The template's click does not say what keys were held.
     MouseArea {
-        id: mouse
-
-        anchors.fill: row.background
-        hoverEnabled: true
-        onClicked: event => row.isCurrent && event.modifiers & Qt.ControlModifier ? row.unpicked() : row.picked()
+        anchors.fill: parent
+        onPressed: event => event.accepted = row.isCurrent && event.modifiers & Qt.ControlModifier
+        onClicked: row.unpicked()
     }
 
     Hint {
         text: row.hint
-        isAsked: mouse.containsMouse || row.visualFocus
+        isAsked: row.hovered || row.visualFocus
     }
 }

@@ -64,9 +64,12 @@ FocusScope {
             readonly property CategoryRow currentRow: list.currentItem as CategoryRow
 
             Layout.fillWidth: true
+            // The first row's name is as far from the heading as rows are from each other.
+            Layout.topMargin: -Theme.space3
+            Layout.bottomMargin: -Theme.space3
             implicitHeight: contentHeight
             interactive: false
-            spacing: Theme.space8
+            spacing: Theme.space2
             model: sidebar.categories
             currentIndex: Math.max(0, sidebar.selectedCategory)
             activeFocusOnTab: true

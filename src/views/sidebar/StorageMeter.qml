@@ -4,21 +4,41 @@ import QtQuick
 Column {
     id: meter
 
+    /// A bar that is as wide as its amount is beside the disk. It can be wider than the track that it
+    /// lies in, for what is found may be more than the disk holds; none of that is drawn. One that is
+    /// too narrow for both of its round ends is the start of a wider one, so that it keeps to the
+    /// round end of the track.
+    component Bar: Item {
+        id: bar
+
+        required property real share
+        required property color color
+
+        anchors.left: parent.left
+        width: Math.max(4, bar.share * bar.parent.width)
+        height: bar.parent.height
+        clip: bar.width < bar.height
+
+        Rectangle {
+            anchors.left: parent.left
+            width: Math.max(bar.height, Math.min(bar.width, bar.parent.width))
+            height: parent.height
+            radius: height / 2
+            color: bar.color
+        }
+    }
+
     required property string caption
     required property string sizeText
     required property bool isReclaiming
     required property real foundShare
     required property real selectedShare
 
-    function barWidth(share: real): real {
-        return Math.max(4, share * track.width);
-    }
-
-    spacing: 8
+    spacing: Theme.space8
 
     Column {
         width: parent.width
-        spacing: 2
+        spacing: Theme.space2
 
         PlainLabel {
             anchors.left: parent.left
@@ -43,21 +63,19 @@ Column {
 
         width: parent.width
         height: 8
-        radius: 4
+        radius: height / 2
         color: Theme.quaternary
         border.width: 1
         border.color: Theme.divider
 
-        MeterBar {
-            width: meter.barWidth(meter.foundShare)
+        Bar {
+            share: meter.foundShare
             color: Theme.tinted(Theme.blue, 0.2)
         }
 
-        MeterBar {
-            property real share: meter.selectedShare
-
+        Bar {
             visible: meter.isReclaiming
-            width: meter.barWidth(share)
+            share: meter.selectedShare
             color: Theme.blue
 
             Behavior on share {

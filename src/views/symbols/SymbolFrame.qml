@@ -1,14 +1,14 @@
 import QtQuick
 
-/// A symbol in the middle of a frame 20 wide, so that symbols of any width stand in one column.
+/// A symbol in the middle of a frame, so that symbols of any width stand in one column.
 Item {
     id: frame
 
     property alias name: symbol.name
     property alias color: symbol.color
 
-    implicitWidth: 20
-    implicitHeight: 20
+    implicitWidth: Theme.frame
+    implicitHeight: Theme.frame
 
     Symbol {
         id: symbol

@@ -42,7 +42,7 @@ T.ToolTip {
     }
 
     background: Rectangle {
-        radius: 6
+        radius: Theme.cornerSmall
         color: Theme.tooltip
         border.width: 1
         border.color: Qt.rgba(1, 1, 1, 0.12)

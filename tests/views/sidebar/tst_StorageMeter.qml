@@ -51,11 +51,11 @@ TestCase {
         return meter.children[1];
     }
 
-    function found(meter: StorageMeter): MeterBar {
+    function found(meter: StorageMeter): Item {
         return track(meter).children[0];
     }
 
-    function selected(meter: StorageMeter): MeterBar {
+    function selected(meter: StorageMeter): Item {
         return track(meter).children[1];
     }
 
@@ -117,7 +117,7 @@ TestCase {
         compare(track(meter).width, 200);
         compare(found(meter).width, 50);
         compare(selected(meter).width, 20);
-        for (const bar of [track(meter), found(meter), selected(meter)])
+        for (const bar of [track(meter), found(meter).children[0], selected(meter).children[0]])
             compare(bar.radius, 4);
         verify(Qt.colorEqual(track(meter).color, Theme.quaternary));
         verify(Qt.colorEqual(found(meter).color, Theme.tinted(Theme.blue, 0.2)));
