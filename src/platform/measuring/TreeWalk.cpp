@@ -149,11 +149,13 @@ void TreeWalk::shareWork() {
     if (m_pool == nullptr) {
         return;
     }
-    m_pool->adjust(m_pace.hasWaited());
+    const ThreadUsage now = ThreadUsage::now();
+    m_pool->adjust(m_lastUsage && now.hasWaitedSince(*m_lastUsage));
+    m_lastUsage = now;
     if (m_pool->wantsWork()) {
         if (auto half = m_stack.split()) {
             m_pool->give(std::move(*half));
-            m_pace.restart(); // to wait for the pool is not to wait for the disk
+            m_lastUsage = ThreadUsage::now(); // to wait for the pool is not to wait for the disk
         }
     }
 }

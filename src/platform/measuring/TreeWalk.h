@@ -4,10 +4,11 @@
 #include "platform/folders/OpenFolder.h"
 #include "platform/measuring/FolderStack.h"
 #include "platform/measuring/Subtree.h"
-#include "platform/threads/ThreadPace.h"
+#include "platform/threads/ThreadUsage.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 
 namespace drossbin {
 
@@ -51,7 +52,7 @@ class TreeWalk {
     static constexpr std::size_t firstStretch = 256;
     static constexpr std::size_t stretch = 128;
     std::size_t m_untilSharing = firstStretch;
-    ThreadPace m_pace;
+    std::optional<ThreadUsage> m_lastUsage;
 };
 
 } // namespace drossbin
