@@ -1,4 +1,4 @@
-#include "app/Background.h"
+#include "app/BackgroundTask.h"
 #include "app/ContentView.h"
 
 #include <algorithm>
@@ -39,7 +39,7 @@ QCoro::Task<std::vector<DiskItem>> ContentView::scanDisk() {
     const auto report = [show](double fraction, const std::string& task, std::int64_t bytes) {
         MainThread::post([=] { show(fraction, task, bytes); });
     };
-    Background walk([scan = m_services.scan, report] { return scan(report); });
+    BackgroundTask walk([scan = m_services.scan, report] { return scan(report); });
     co_return co_await walk;
 }
 
@@ -72,7 +72,7 @@ QCoro::Task<> ContentView::performDeletion() {
     const auto report = [this](double fraction, const std::string&) {
         m_scanResult.deleteProgress = fraction;
     };
-    Background removal([remove = m_services.deleteItems, items = itemsToDelete(), report] {
+    BackgroundTask removal([remove = m_services.deleteItems, items = itemsToDelete(), report] {
         return remove(items, report);
     });
     DiskCleaner::Outcome outcome = co_await removal;
@@ -94,7 +94,7 @@ std::vector<DiskItem> ContentView::itemsToDelete() const {
 }
 
 QCoro::Task<> ContentView::measureDisk() {
-    Background question(m_services.diskSpace);
+    BackgroundTask question(m_services.diskSpace);
     const std::optional<std::int64_t> space = co_await question;
     m_diskSpace = space.value_or(assumedDiskSpace);
     queueRefresh();

@@ -1,6 +1,6 @@
 #include "app/MotionPreference.h"
 
-#include "app/Background.h"
+#include "app/BackgroundTask.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -31,7 +31,7 @@ void MotionPreference::ask() {
 
 QCoro::Task<> MotionPreference::askPortal() {
     // Connecting waits for the bus, so it is done in the background.
-    Background connecting(&QDBusConnection::sessionBus);
+    BackgroundTask connecting(&QDBusConnection::sessionBus);
     const QDBusConnection bus = co_await connecting;
     QDBusMessage question = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.portal.Desktop"),

@@ -72,7 +72,7 @@ ResultsShell {
         onDismissed: session.content.goBack()
     }
 
-    SessionSheets {
+    DeletionSheets {
         content: session.content
     }
 

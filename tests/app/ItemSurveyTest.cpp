@@ -1,6 +1,6 @@
 #include "app/ItemSurvey.h"
 
-#include "Session.h"
+#include "Harness.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "app/MotionPreference.h"
 
-#include "Session.h"
+#include "Harness.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -1,6 +1,6 @@
 #include "CleanerFixture.h"
 #include "support/Limits.h"
-#include "support/PrivateMounts.h"
+#include "support/MountNamespace.h"
 #include "support/SystemCalls.h"
 
 #include <gmock/gmock.h>
@@ -89,7 +89,7 @@ TEST_F(DiskCleanerFailuresTest, for_a_mount_inside_an_item_leave_it_alone_and_go
     m_home.folder("item/mount");
     const std::vector<DiskItem> items{makeItem(m_home / "item", "item", 4'000),
                                       makeItem(m_home.file("file", 1), "file", 2'000)};
-    const auto holds = test::holdsWithPrivateMounts([&] {
+    const auto holds = test::holdsInMountNamespace([&] {
         if (!test::mountMemory(m_home / "item/mount", "64k")) {
             return false;
         }
@@ -108,7 +108,7 @@ TEST_F(DiskCleanerFailuresTest, for_a_mount_inside_an_item_leave_it_alone_and_go
 
 // Without space for a byte more, it is the removal that makes the space for its own record.
 TEST_F(DiskCleanerFailuresTest, do_not_keep_a_full_disk_from_being_cleaned_and_logged) {
-    const auto holds = test::holdsWithPrivateMounts([this] {
+    const auto holds = test::holdsInMountNamespace([this] {
         if (!test::mountMemory(m_home.path(), "1m")) {
             return false;
         }

@@ -1,5 +1,5 @@
+#include "HeldContentView.h"
 #include "HeldKey.h"
-#include "HeldSession.h"
 #include "HeldTime.h"
 #include "app/EventLoop.h"
 #include "platform/words/Locale.h"
@@ -40,7 +40,7 @@ class Setup : public QObject {
     void qmlEngineAvailable(QQmlEngine* engine) {
         engine->addImportPath(QStringLiteral("qrc:/"));
         qmlRegisterType<drossbin::test::HeldKey>("Drossbin.Test", 1, 0, "HeldKey");
-        qmlRegisterType<drossbin::test::HeldSession>("Drossbin.Test", 1, 0, "HeldSession");
+        qmlRegisterType<drossbin::test::HeldContentView>("Drossbin.Test", 1, 0, "HeldContentView");
         qmlRegisterType<drossbin::test::HeldTime>("Drossbin.Test", 1, 0, "HeldTime");
     }
 };

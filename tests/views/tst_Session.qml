@@ -35,7 +35,7 @@ Item {
             Component {
                 id: content
 
-                HeldSession {}
+                HeldContentView {}
             }
 
             Component {

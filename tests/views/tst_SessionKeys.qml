@@ -34,7 +34,7 @@ Item {
             Component {
                 id: content
 
-                HeldSession {}
+                HeldContentView {}
             }
 
             Component {

@@ -1,5 +1,5 @@
 #include "platform/FileManager.h"
-#include "support/PrivateMounts.h"
+#include "support/MountNamespace.h"
 #include "support/ScratchFolder.h"
 #include "support/SystemCalls.h"
 
@@ -22,8 +22,8 @@ bool isThere(const std::string& path) {
     return FileManager::attributesOfItem(path).has_value();
 }
 
-void expectWithPrivateMounts(const std::function<bool()>& job) {
-    const auto holds = test::holdsWithPrivateMounts(job);
+void expectWithMountNamespace(const std::function<bool()>& job) {
+    const auto holds = test::holdsInMountNamespace(job);
     if (!holds) {
         GTEST_SKIP() << "this system lets the tests make no mounts of their own";
     }
@@ -37,7 +37,7 @@ bool isBusy(const std::string& path) {
 TEST(RemovalOfAnItemWithAMountInside, fails_and_leaves_another_file_system_alone) {
     const ScratchFolder scratch;
     const std::string mount = scratch.folder("item/a/mount");
-    expectWithPrivateMounts([&] {
+    expectWithMountNamespace([&] {
         return mountMemory(mount, "64k") && !scratch.file("item/a/mount/file", 1).empty() &&
                isBusy(scratch / "item") && isThere(mount + "/file");
     });
@@ -48,7 +48,7 @@ TEST(RemovalOfAnItemWithAMountInside, fails_and_leaves_a_folder_of_the_same_file
     const ScratchFolder scratch;
     const std::string mount = scratch.folder("item/a/mount");
     scratch.file("outside/file", 1);
-    expectWithPrivateMounts([&] {
+    expectWithMountNamespace([&] {
         return mountAgain(scratch / "outside", mount) && isBusy(scratch / "item") &&
                isThere(scratch / "outside/file");
     });
@@ -59,7 +59,7 @@ TEST(RemovalOfAnItemWithAMountInside, fails_and_leaves_a_file_of_the_same_file_s
     const ScratchFolder scratch;
     const std::string mount = scratch.file("item/mount", 0);
     const std::string outside = scratch.file("outside", 5);
-    expectWithPrivateMounts([&] {
+    expectWithMountNamespace([&] {
         return mountAgain(outside, mount) && isBusy(scratch / "item") &&
                FileManager::attributesOfItem(outside)->size == 5 && isThere(mount);
     });
@@ -69,7 +69,7 @@ TEST(RemovalOfAnItemWithAMountInside, fails_and_leaves_a_file_of_the_same_file_s
 TEST(RemovalOfAnItemWithAMountInside, fails_by_the_device_alone_where_no_mounts_are_told) {
     const ScratchFolder scratch;
     const std::string mount = scratch.folder("item/a/mount");
-    expectWithPrivateMounts([&] {
+    expectWithMountNamespace([&] {
         const SystemCallHook refusal(
             [](const SystemCallHook::Call& call) { return call.function == "statx" ? EPERM : 0; });
         return mountMemory(mount, "64k") && !scratch.file("item/a/mount/file", 1).empty() &&
@@ -80,7 +80,7 @@ TEST(RemovalOfAnItemWithAMountInside, fails_by_the_device_alone_where_no_mounts_
 TEST(RemovalOfAMount, fails_and_leaves_what_is_on_it) {
     const ScratchFolder scratch;
     const std::string mount = scratch.folder("mount");
-    expectWithPrivateMounts([&] {
+    expectWithMountNamespace([&] {
         return mountMemory(mount, "64k") && !scratch.file("mount/file", 1).empty() &&
                isBusy(mount) && isThere(mount + "/file");
     });
@@ -89,7 +89,7 @@ TEST(RemovalOfAMount, fails_and_leaves_what_is_on_it) {
 TEST(RemovalOnAMount, removes_an_item_that_lies_on_it_whole) {
     const ScratchFolder scratch;
     const std::string mount = scratch.folder("mount");
-    expectWithPrivateMounts([&] {
+    expectWithMountNamespace([&] {
         return mountMemory(mount, "64k") && !scratch.file("mount/item/folder/file", 1).empty() &&
                !FileManager::removeItem(mount + "/item") && !isThere(mount + "/item");
     });
@@ -100,7 +100,7 @@ TEST(RemovalOnAMount, removes_an_item_that_lies_on_it_whole) {
 TEST(RemovalOfASubvolume, removes_it_with_all_that_is_in_it_subvolumes_too) {
     const ScratchFolder scratch;
     const std::string home = scratch.folder("home");
-    const auto isMounted = test::holdsWithPrivateMounts([&] { return test::mountBtrfs(home); });
+    const auto isMounted = test::holdsInMountNamespace([&] { return test::mountBtrfs(home); });
     if (!isMounted.value_or(false)) {
         GTEST_SKIP() << "no Btrfs can be made and mounted here";
     }
@@ -109,7 +109,7 @@ TEST(RemovalOfASubvolume, removes_it_with_all_that_is_in_it_subvolumes_too) {
                                  " && mkdir .cache/folder && touch .cache/folder/file"
                                  " && btrfs --quiet subvolume create .cache/folder/inner"
                                  " && touch .cache/folder/inner/file";
-    expectWithPrivateMounts([&] {
+    expectWithMountNamespace([&] {
         return test::mountBtrfs(home) && std::system(commands.c_str()) == 0 &&
                !FileManager::removeItem(home + "/.cache") && !isThere(home + "/.cache");
     });
@@ -119,7 +119,7 @@ TEST(RemovalOfASubvolume, removes_it_with_all_that_is_in_it_subvolumes_too) {
 TEST(AtomicWriteOnAFullDisk, fails_and_leaves_nothing_behind) {
     const ScratchFolder scratch;
     const std::string mount = scratch.folder("mount");
-    expectWithPrivateMounts([&] {
+    expectWithMountNamespace([&] {
         return mountMemory(mount, "64k") &&
                FileManager::writeAtomically(std::string(100'000, 'x'), mount + "/log") ==
                    std::errc::no_space_on_device &&
@@ -130,7 +130,7 @@ TEST(AtomicWriteOnAFullDisk, fails_and_leaves_nothing_behind) {
 TEST(AtomicWriteOnAFullDisk, writes_what_fits) {
     const ScratchFolder scratch;
     const std::string mount = scratch.folder("mount");
-    expectWithPrivateMounts([&] {
+    expectWithMountNamespace([&] {
         return mountMemory(mount, "64k") &&
                !FileManager::writeAtomically(std::string(50'000, 'x'), mount + "/log") &&
                FileManager::attributesOfItem(mount + "/log")->size == 50'000;

@@ -14,20 +14,20 @@ namespace drossbin::test {
 
 /// A session that finds three items in each category or as many as it is told to, touches no disk,
 /// and whose runs last until they are told to finish.
-class HeldSession : public ContentView {
+class HeldContentView : public ContentView {
     Q_OBJECT
     Q_PROPERTY(int perCategory READ perCategory WRITE setPerCategory)
     Q_PROPERTY(QString firstName READ firstName WRITE setFirstName)
     Q_PROPERTY(QStringList log READ log WRITE setLog)
 
   public:
-    HeldSession()
-        : HeldSession(std::make_shared<Runs>()) {}
-    ~HeldSession() override {
+    HeldContentView()
+        : HeldContentView(std::make_shared<Runs>()) {}
+    ~HeldContentView() override {
         m_runs->gate.release(someRuns);
         settle();
     }
-    Q_DISABLE_COPY_MOVE(HeldSession)
+    Q_DISABLE_COPY_MOVE(HeldContentView)
 
     /// Lets the run that is under way come to its end.
     Q_INVOKABLE void finish() {
@@ -56,7 +56,7 @@ class HeldSession : public ContentView {
         QStringList log;
     };
 
-    explicit HeldSession(const std::shared_ptr<Runs>& runs)
+    explicit HeldContentView(const std::shared_ptr<Runs>& runs)
         : ContentView(services(runs))
         , m_runs(runs) {}
 

@@ -14,9 +14,9 @@ namespace drossbin {
 /// every job that the work posted to the main thread. Name it before awaiting it: GCC 12 destroys
 /// twice what a temporary in an await expression holds.
 template <class Work>
-class Background {
+class BackgroundTask {
   public:
-    explicit Background(Work work)
+    explicit BackgroundTask(Work work)
         : m_work(std::move(work)) {}
 
     [[nodiscard]] bool await_ready() const { return false; }

@@ -17,9 +17,9 @@ Item {
         TestCase {
             id: test
 
-            property SessionSheets made
+            property DeletionSheets made
 
-            name: "SessionSheets"
+            name: "DeletionSheets"
             when: host.active
             visible: true
             width: 900
@@ -32,13 +32,13 @@ Item {
             Component {
                 id: session
 
-                HeldSession {}
+                HeldContentView {}
             }
 
             Component {
                 id: sheets
 
-                SessionSheets {}
+                DeletionSheets {}
             }
 
             function init() {
@@ -54,7 +54,7 @@ Item {
             }
 
             /// A session after a scan, with everything in it selected.
-            function make(properties: var): HeldSession {
+            function make(properties: var): HeldContentView {
                 const content = createTemporaryObject(session, test, properties ?? {});
                 test.made = sheets.createObject(test, { content: content });
                 content.startScan(true);
@@ -75,7 +75,7 @@ Item {
                 tryCompare(sheet(name) ?? test, "visible", sheet(name) === null);
             }
 
-            function confirmed(properties: var): HeldSession {
+            function confirmed(properties: var): HeldContentView {
                 const content = make(properties);
                 content.requestDeletion();
                 content.confirmDeletion();

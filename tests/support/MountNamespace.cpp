@@ -1,4 +1,4 @@
-#include "support/PrivateMounts.h"
+#include "support/MountNamespace.h"
 
 #include <gtest/gtest.h>
 
@@ -47,7 +47,7 @@ bool makeMountsPrivate() {
 
 } // namespace
 
-std::optional<bool> holdsWithPrivateMounts(const std::function<bool()>& job) {
+std::optional<bool> holdsInMountNamespace(const std::function<bool()>& job) {
     const pid_t child = ::fork();
     if (child == 0) {
         const bool isPrivate = makeMountsPrivate();

@@ -8,7 +8,7 @@ namespace drossbin::test {
 
 /// Runs `job` in a child process whose mounts nobody else sees and which may mount; returns what
 /// `job` returned, or nothing where the system grants no such process.
-std::optional<bool> holdsWithPrivateMounts(const std::function<bool()>& job);
+std::optional<bool> holdsInMountNamespace(const std::function<bool()>& job);
 
 // To be called by such a job; each returns whether the mount could be made.
 

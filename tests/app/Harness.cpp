@@ -1,4 +1,4 @@
-#include "Session.h"
+#include "Harness.h"
 
 #include "platform/BackgroundThread.h"
 
