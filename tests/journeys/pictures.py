@@ -4,14 +4,11 @@ Usage: pictures.py PROGRAM FOLDER saves them there."""
 
 import os
 import re
-import sys
 
 from PIL import Image, ImageChops, ImageDraw
 
-import world as worlds
-from desktop import Desktop
 from home import Home
-from screens import Walk, at_rest
+from screens import Walk, at_rest, save_pictures
 
 APPEARANCES = ("light", "dark")
 AGE = re.compile(r"^in \d| ago$")  # the demo data draws its dates by chance
@@ -98,17 +95,7 @@ def masked(picture, areas):
     return picture
 
 
-def main():
-    program, folder = map(os.path.abspath, sys.argv[1:3])
-    world = worlds.inside()
-    if world is None:
-        os.makedirs(folder, exist_ok=True)
-        sys.exit(worlds.run_inside(os.path.abspath(__file__), [program, folder]))
-    os.environ.update(world.environment())
-    desktop = Desktop(world)
-    os.environ.update(desktop.environment())
-    desktop.want_no_motion()
-
+def save_all(world, desktop, program, folder):
     def save(name, picture, _areas):
         path = os.path.join(folder, f"{name}.png")
         # A palette makes them a third as large and no pixel worse than the tolerance forgives.
@@ -116,8 +103,7 @@ def main():
         print(path, flush=True)
 
     walk(world, desktop, program, save)
-    desktop.close()
 
 
 if __name__ == "__main__":
-    main()
+    save_pictures(save_all)

@@ -1,8 +1,11 @@
 """A walk through every screen that there is, for those who want a picture of each."""
 
 import os
+import sys
 
 import slow
+import world as worlds
+from desktop import Desktop
 from driver import Program, wait_for
 
 WINDOW = (900, 650)
@@ -126,6 +129,22 @@ class Walk:
     def _start_slowly(self, folder, milliseconds=2_000):
         held = slow.on(folder, milliseconds) if slow.is_possible() else ()
         return self._start(wrapper=held)
+
+
+def save_pictures(walk):
+    """Runs the calling script's `walk(world, desktop, program, folder)` in a new world without motion.
+    The script's arguments are the program and the folder for its pictures."""
+    program, folder = map(os.path.abspath, sys.argv[1:3])
+    world = worlds.inside()
+    if world is None:
+        os.makedirs(folder, exist_ok=True)
+        sys.exit(worlds.run_inside(os.path.abspath(sys.argv[0]), [program, folder]))
+    os.environ.update(world.environment())
+    desktop = Desktop(world)
+    os.environ.update(desktop.environment())
+    desktop.want_no_motion()
+    walk(world, desktop, program, folder)
+    desktop.close()
 
 
 def at_rest(program):

@@ -2,12 +2,9 @@
 and saves a picture of each. Usage: tour.py PROGRAM FOLDER"""
 
 import os
-import sys
 
-import world as worlds
-from desktop import Desktop
 from home import Home
-from screens import Walk, at_rest
+from screens import Walk, at_rest, save_pictures
 
 
 def fill(home):
@@ -28,20 +25,6 @@ def fill(home):
         home.file(f"Downloads/holiday-{number}.zip", 65_000_000 - number * 7_000_000, days_old=45 + number)
 
 
-def main():
-    program, folder = map(os.path.abspath, sys.argv[1:3])
-    world = worlds.inside()
-    if world is None:
-        os.makedirs(folder, exist_ok=True)
-        sys.exit(worlds.run_inside(os.path.abspath(__file__), [program, folder]))
-    os.environ.update(world.environment())
-    desktop = Desktop(world)
-    os.environ.update(desktop.environment())
-    desktop.want_no_motion()
-    walk(world, desktop, program, folder)
-    desktop.close()
-
-
 def walk(world, desktop, program, folder):
     def take(name, running):
         path = os.path.join(folder, f"{name}.png")
@@ -60,4 +43,4 @@ def walk(world, desktop, program, folder):
 
 
 if __name__ == "__main__":
-    main()
+    save_pictures(walk)
