@@ -62,6 +62,7 @@ QtObject {
     readonly property color faintHovered: theme.dark ? Qt.rgba(1, 1, 1, 0.06) : Qt.rgba(0, 0, 0, 0.06)
 
     // Type scale, in pixels
+    readonly property int figure: 36
     readonly property int largeTitle: 28
     readonly property int title: 22
     readonly property int title2: 18
@@ -93,6 +94,9 @@ QtObject {
     readonly property int topLine: 64
     /// What symbols and check boxes stand in the middle of.
     readonly property int frame: 20
+    /// How wide a tip may be: one of a few words of ours, and one that shows a whole name or path.
+    readonly property int hintWidth: 320
+    readonly property int tipWidth: 640
     /// How far apart the lines of a log are.
     readonly property int logPitch: 18
 
@@ -124,6 +128,8 @@ QtObject {
     readonly property int warned: theme.lasting(250)
     readonly property int dimmed: theme.lasting(250)
     readonly property int standard: theme.lasting(350)
+    /// Of the landing screen's sign, in or out. It stands still where nothing moves.
+    readonly property int breathed: 1000
     /// How long the pointer or the keyboard rests before a tip comes; not a motion.
     readonly property int rested: 500
     readonly property int sprung: theme.lasting(Spring.duration)

@@ -50,7 +50,7 @@ PressButton {
     }
 
     font {
-        pixelSize: 14
+        pixelSize: Theme.body
         weight: Font.DemiBold
     }
 }

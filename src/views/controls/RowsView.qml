@@ -49,7 +49,7 @@ ListView {
         text: pointer.hovered && !rows.moving ? rows.tipAt(pointer.place.x, pointer.place.y) : ""
         isAsked: text !== ""
         place: Qt.rect(pointer.place.x, pointer.place.y, 0, Theme.space16)
-        widest: 640
+        widest: Theme.tipWidth
         wrapMode: Text.WrapAnywhere
         onTextChanged: tip.isAnswered = false // it is about another row
     }

@@ -9,7 +9,7 @@ Rectangle {
 
     implicitWidth: 120
     implicitHeight: 120
-    radius: 60
+    radius: height / 2
     color: Theme.tinted(Theme.blue, 0.08)
 
     WindowVisibility {
@@ -33,12 +33,12 @@ Rectangle {
 
             EaseInOutMotion {
                 to: 0.45
-                duration: 1000
+                duration: Theme.breathed
             }
 
             EaseInOutMotion {
                 to: 1
-                duration: 1000
+                duration: Theme.breathed
             }
         }
     }

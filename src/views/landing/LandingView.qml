@@ -57,7 +57,7 @@ Scene {
                 label: "Start System Scan"
                 symbol: "magnifyingglass"
                 font.pixelSize: Theme.headline
-                horizontalPadding: 56
+                horizontalPadding: Theme.space24 + Theme.space32
                 verticalPadding: Theme.space24
                 onClicked: landing.scan()
             }

@@ -61,7 +61,7 @@ SheetPage {
         PlainLabel {
             anchors.horizontalCenter: parent.horizontalCenter
             text: view.freedSpaceText
-            font.pixelSize: 36
+            font.pixelSize: Theme.figure
             font.weight: Font.Bold
         }
     }

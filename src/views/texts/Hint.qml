@@ -11,7 +11,7 @@ Item {
     property bool isAnswered: false
     /// What it is about, in the parent.
     property rect place: Qt.rect(0, 0, hint.parent.width, hint.parent.height)
-    property real widest: 320
+    property real widest: Theme.hintWidth
     property int wrapMode: Text.Wrap
     readonly property Tip tip: made.item as Tip
 

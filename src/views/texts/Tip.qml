@@ -8,7 +8,7 @@ T.ToolTip {
 
     /// What it is about, in the parent: it stands below, or above it where the window ends.
     property rect place: Qt.rect(0, 0, tip.parent.width, tip.parent.height)
-    property real widest: 640
+    property real widest: Theme.tipWidth
     property int wrapMode: Text.WrapAnywhere
     readonly property int lines: (tip.parent.Window.height - 2 * Theme.space8 - tip.topPadding - tip.bottomPadding) / Theme.lineHeight(Theme.caption2)
     /// What all lines hold together; at the end of each, a character may find no place.
