@@ -3,6 +3,7 @@
 #include "cleaner/DeletionLog.h"
 #include "platform/FileManager.h"
 #include "platform/MainThread.h"
+#include "platform/TerminationDelay.h"
 #include "platform/basics/CheckedSum.h"
 
 #include <cstddef>
@@ -39,6 +40,7 @@ void remove(const DiskItem& item, DiskCleaner::Outcome& outcome) {
 
 DiskCleaner::Outcome DiskCleaner::deleteItems(const std::vector<DiskItem>& items,
                                               const Progress& progress, const Clock& clock) {
+    const TerminationDelay untilLogged;
     const auto folder = logFolder();
     if (folder) {
         // Failures of the log's folder and file are let go: the user asked for space, and where

@@ -27,7 +27,8 @@ class DiskCleaner {
     /// Removes `items` one after another, posts a report to the main thread before each and one
     /// at the end without waiting for any, and writes the deletion log last. Blocks; call it off
     /// the main thread. Failures become lines of the log; a log that cannot be written, or has no
-    /// place because the home folder is unknown, is let go.
+    /// place because the home folder is unknown, is let go. Who asks the program to end meanwhile
+    /// waits for the log. One at a time.
     static Outcome deleteItems(const std::vector<DiskItem>& items, const Progress& progress,
                                const Clock& clock = now);
 };

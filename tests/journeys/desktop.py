@@ -101,6 +101,11 @@ class Desktop:
         window.send_event(event)
         self._x.sync()
 
+    def drop(self, window):
+        """Ends its program's connection to the screen, as the end of the screen would."""
+        window.kill_client()
+        self._x.sync()
+
     def picture(self, window):
         """The window as it is on the screen now."""
         area = window.get_geometry()

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <array>
+#include <csignal>
+
+namespace drossbin {
+
+/// While it lives, who asks the program to end has to wait. SIGTERM and SIGHUP, as the end of a
+/// session sends them, end it when this goes, as they would have at once; exit(), as the toolkit
+/// calls it when the display is gone, goes on when no background thread has work left. Only a
+/// second SIGTERM ends the program on the spot.
+///
+/// What the program was told to ignore stays ignored, such as SIGHUP by nohup. One at a time.
+class TerminationDelay {
+  public:
+    TerminationDelay();
+    ~TerminationDelay();
+    TerminationDelay(const TerminationDelay&) = delete;
+    TerminationDelay& operator=(const TerminationDelay&) = delete;
+    TerminationDelay(TerminationDelay&&) = delete;
+    TerminationDelay& operator=(TerminationDelay&&) = delete;
+
+  private:
+    std::array<struct sigaction, 2> m_before{};
+};
+
+} // namespace drossbin

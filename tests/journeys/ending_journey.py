@@ -1,0 +1,103 @@
+"""The system ends the program: by a signal, or by taking its display away."""
+
+import os
+import signal
+
+import slow
+from driver import PATIENCE, wait_for
+from journey import Journey, main
+
+ENTRIES = 1_000
+NO_HURRY = 400  # milliseconds for each call: together far longer than anyone waits below
+
+
+class Ending(Journey):
+    def setUp(self):
+        super().setUp()
+        if not slow.is_possible():
+            self.skipTest("the program cannot be traced here, and so not be slowed down")
+        for number in range(ENTRIES):
+            last = self.home.file(f"Library/Caches/com.example.Many/{number:04}", 10_000)
+        self.folder = os.path.dirname(last)
+
+    def start_slowly(self, milliseconds, calls=slow.CALLS):
+        self.program = self.start(wrapper=slow.on(self.folder, milliseconds, calls))
+
+    def begin_deletion(self):
+        self.scan(self.program)
+        self.program.press("check box", "com.example.Many")
+        self.program.press("push button", "Delete Selected")
+        self.program.press("push button", "Confirm & Delete")
+        self.program.find("label", "Deleting files...")
+        wait_for("the first removal", lambda: len(os.listdir(self.folder)) < ENTRIES)
+
+    def pid(self):
+        """Of the program itself, which is the tracer's child."""
+        tracer = self.program.process.pid
+        with open(f"/proc/{tracer}/task/{tracer}/children", encoding="ascii") as children:
+            return int(children.read())
+
+    def send(self, number):
+        os.kill(self.pid(), number)
+
+    def catches(self, number):
+        with open(f"/proc/{self.pid()}/status", encoding="ascii") as lines:
+            caught = next(line.split()[1] for line in lines if line.startswith("SigCgt:"))
+        return bool(int(caught, 16) >> (number - 1) & 1)
+
+    def ends_by(self, number):
+        """The tracer ends as the program did."""
+        self.assertEqual(self.program.process.wait(PATIENCE), -number)
+
+    def has_finished(self):
+        self.assertFalse(os.path.exists(self.folder))
+        (log,) = self.home.deletion_logs()
+        with open(log, encoding="utf-8") as file:
+            text = file.read()
+        self.assertIn("✅ Deleted: com.example.Many (", text)
+        self.assertIn("\n\nTotal freed: ", text)
+
+    def test_a_signal_ends_the_program_at_once_where_nothing_is_deleted(self):
+        for number in (signal.SIGTERM, signal.SIGHUP):
+            with self.subTest(number):
+                self.start_slowly(NO_HURRY)
+                self.send(number)
+                self.ends_by(number)
+
+    def test_a_signal_ends_the_program_at_once_during_a_scan(self):
+        self.start_slowly(NO_HURRY)
+        self.program.press("push button", "Start System Scan")
+        self.program.find("label", "Scanning program caches...")
+        self.send(signal.SIGTERM)
+        self.ends_by(signal.SIGTERM)
+
+    def test_a_deletion_is_finished_and_its_log_written_before_a_signal_ends_the_program(self):
+        self.start_slowly(2)
+        self.begin_deletion()
+        self.send(signal.SIGTERM)
+        self.send(signal.SIGHUP)
+        self.assertTrue(os.path.exists(self.folder))
+        self.assertIn(-self.program.process.wait(PATIENCE), (signal.SIGTERM, signal.SIGHUP))
+        self.has_finished()
+
+    def test_a_second_signal_ends_the_program_during_a_deletion(self):
+        self.start_slowly(NO_HURRY, calls="unlinkat")
+        self.begin_deletion()
+        self.send(signal.SIGTERM)
+        # Before, the system would make one of the two.
+        wait_for("the first signal to arrive", lambda: not self.catches(signal.SIGTERM))
+        self.send(signal.SIGTERM)
+        self.ends_by(signal.SIGTERM)
+        self.assertTrue(os.path.exists(self.folder))
+        self.assertEqual(self.home.deletion_logs(), [])
+
+    def test_a_deletion_is_finished_and_its_log_written_when_the_display_goes_away(self):
+        self.start_slowly(2)
+        self.begin_deletion()
+        self.desktop.drop(self.program.window)
+        self.assertEqual(self.program.process.wait(PATIENCE), 1)
+        self.has_finished()
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,132 @@
+#include "platform/TerminationDelay.h"
+
+#include "platform/BackgroundThread.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <functional>
+#include <latch>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace drossbin {
+namespace {
+
+constexpr int wentOn = 7;
+
+/// How a process ends that does `job` and then leaves of its own accord with `wentOn`.
+int endOf(const std::function<void()>& job) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        job();
+        ::_exit(wentOn);
+    }
+    int status = 0;
+    EXPECT_EQ(::waitpid(child, &status, 0), child);
+    return status;
+}
+
+bool goesOn(const std::function<void()>& job) {
+    const int status = endOf(job);
+    return WIFEXITED(status) && WEXITSTATUS(status) == wentOn;
+}
+
+bool endsBy(int signal, const std::function<void()>& job) {
+    const int status = endOf(job);
+    return WIFSIGNALED(status) && WTERMSIG(status) == signal;
+}
+
+class TerminationDelayOf : public testing::TestWithParam<int> {};
+
+TEST_P(TerminationDelayOf, a_signal_lasts_until_it_goes) {
+    const auto workWithSignal = [] {
+        const TerminationDelay delay;
+        ::raise(GetParam());
+    };
+    EXPECT_TRUE(endsBy(GetParam(), workWithSignal));
+    EXPECT_TRUE(goesOn([&] {
+        const TerminationDelay delay;
+        ::raise(GetParam());
+        ::_exit(wentOn);
+    }));
+}
+
+TEST_P(TerminationDelayOf, a_signal_is_none_before_and_afterwards) {
+    const auto raise = [] { ::raise(GetParam()); };
+    EXPECT_TRUE(endsBy(GetParam(), raise));
+    EXPECT_TRUE(endsBy(GetParam(), [&] {
+        { const TerminationDelay delay; }
+        raise();
+    }));
+}
+
+TEST_P(TerminationDelayOf, a_signal_leaves_it_ignored_where_it_was) {
+    EXPECT_TRUE(goesOn([] {
+        ::signal(GetParam(), SIG_IGN);
+        {
+            const TerminationDelay delay;
+            ::raise(GetParam());
+        }
+        ::raise(GetParam());
+    }));
+}
+
+INSTANTIATE_TEST_SUITE_P(EachSignal, TerminationDelayOf, testing::Values(SIGTERM, SIGHUP),
+                         [](const auto& parameter) {
+                             return parameter.param == SIGTERM ? "SIGTERM" : "SIGHUP";
+                         });
+
+TEST(TerminationDelay, ends_at_a_second_request_to_terminate) {
+    EXPECT_TRUE(endsBy(SIGTERM, [] {
+        const TerminationDelay delay;
+        ::raise(SIGTERM);
+        ::raise(SIGTERM);
+        ::_exit(wentOn);
+    }));
+}
+
+// As when a terminal is closed, or a session ends.
+TEST(TerminationDelay, lasts_through_hang_ups_whatever_comes_with_them) {
+    EXPECT_TRUE(goesOn([] {
+        const TerminationDelay delay;
+        for (const int signal : {SIGHUP, SIGTERM, SIGHUP}) {
+            ::raise(signal);
+        }
+        ::_exit(wentOn);
+    }));
+}
+
+TEST(TerminationDelay, holds_up_an_exit_until_the_background_has_done_its_work) {
+    EXPECT_TRUE(goesOn([] {
+        static std::latch delayed(1);
+        static std::latch leaving(1);
+        BackgroundThread::run([] {
+            const TerminationDelay delay;
+            delayed.count_down();
+            leaving.wait();
+            ::_exit(wentOn); // reached only when the exit waits
+        });
+        delayed.wait();
+        std::atexit([] { leaving.count_down(); }); // done before what was registered earlier
+        std::exit(EXIT_FAILURE); // NOLINT(concurrency-mt-unsafe): that is what the toolkit does
+    }));
+}
+
+TEST(TerminationDelay, holds_up_no_exit_when_it_is_gone) {
+    EXPECT_EQ(endOf([] {
+                  static std::latch isGone(1);
+                  BackgroundThread::run([] {
+                      { const TerminationDelay delay; }
+                      isGone.count_down();
+                      ::pause();
+                  });
+                  isGone.wait();
+                  std::exit(EXIT_SUCCESS); // NOLINT(concurrency-mt-unsafe): as above
+              }),
+              EXIT_SUCCESS);
+}
+
+} // namespace
+} // namespace drossbin
