@@ -14,6 +14,12 @@ struct FolderIdentity {
 
     bool operator==(const FolderIdentity&) const = default;
 
+    /// Whether both stand for one folder. The system may tell the mount of one and not of the
+    /// other.
+    [[nodiscard]] bool isSameFolderAs(const FolderIdentity& other) const {
+        return device == other.device && inode == other.inode && sharesMountWith(other);
+    }
+
     /// The mounts alone tell where both are known: the subvolumes of one mount, which removal may
     /// enter, have devices of their own.
     [[nodiscard]] bool sharesMountWith(const FolderIdentity& other) const {

@@ -154,7 +154,11 @@ class TreeRemoval {
             return lastSystemError();
         }
         RemovalLevel& above = *(m_levels.end() - 2);
-        if (FolderIdentity::of(folder.get()) != above.identity) {
+        const auto identity = FolderIdentity::of(folder.get());
+        if (!identity) {
+            return lastSystemError();
+        }
+        if (!identity->isSameFolderAs(above.identity)) {
             return busy();
         }
         above.open(std::move(folder));

@@ -91,6 +91,17 @@ TEST(RemovalFailure, of_the_newer_call_for_an_identity_leads_to_the_older_one) {
     EXPECT_FALSE(isThere(scratch / "item"));
 }
 
+TEST(RemovalFailure, of_the_newer_call_for_one_folder_is_none) {
+    bool hasFailed = true;
+    for (int nth = 1; hasFailed; ++nth) {
+        const ScratchFolder scratch;
+        makeTree(scratch);
+        const Failure failure = removeWithFailure(scratch / "item", "statx", nth);
+        EXPECT_EQ(failure.error, noError) << "call " << nth;
+        hasFailed = failure.hasFailed;
+    }
+}
+
 TEST(RemovalFailure, of_both_calls_for_an_identity_stops_before_anything_is_removed) {
     const ScratchFolder scratch;
     scratch.file("item/file", 1);
