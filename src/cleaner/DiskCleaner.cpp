@@ -62,6 +62,7 @@ DiskCleaner::Outcome DiskCleaner::deleteItems(const std::vector<DiskItem>& items
     if (folder) {
         // Again, because it may have been among the items: all log folders are one of them.
         FileManager::createDirectory(*folder);
+        FileManager::removeTemporaryFiles(*folder);
         FileManager::writeAtomically(deletionlog::text(headerDate, outcome.log, outcome.bytesFreed),
                                      deletionlog::path(*folder, nameDate));
     }

@@ -1,9 +1,14 @@
 #include "platform/AtomicWrite.h"
 
+#include "platform/folders/DirectoryReader.h"
 #include "platform/folders/FileDescriptor.h"
+#include "platform/folders/OpenFolder.h"
 #include "platform/folders/PathParts.h"
 #include "platform/folders/SystemError.h"
 
+#include <algorithm>
+#include <charconv>
+#include <csignal>
 #include <cstdio>
 #include <fcntl.h>
 #include <random>
@@ -14,9 +19,27 @@ namespace drossbin {
 
 namespace {
 
+constexpr std::string_view temporaryPrefix = ".drossbin-";
+
+/// With the number of the process, so that others can tell when nobody writes it any more.
 std::string temporaryName() {
     std::random_device random;
-    return ".drossbin-" + std::to_string(random()) + "-" + std::to_string(random());
+    return std::string(temporaryPrefix) + std::to_string(::getpid()) + "-" +
+           std::to_string(random());
+}
+
+bool isTemporaryOfAnEndedProcess(std::string_view name) {
+    if (!name.starts_with(temporaryPrefix)) {
+        return false;
+    }
+    name.remove_prefix(temporaryPrefix.size());
+    pid_t writer = 0;
+    const auto [rest, error] = std::from_chars(name.data(), name.data() + name.size(), writer);
+    const std::string_view suffix(rest, static_cast<std::size_t>(name.data() + name.size() - rest));
+    const bool isOurs = error == std::errc() && writer > 0 && suffix.size() > 1 &&
+                        suffix.front() == '-' &&
+                        suffix.find_first_not_of("0123456789", 1) == std::string_view::npos;
+    return isOurs && ::kill(writer, 0) != 0 && errno == ESRCH;
 }
 
 /// What `call` returns, made again as long as a signal interrupts it.
@@ -91,6 +114,22 @@ std::error_code writeAtomically(const std::string& text, const std::string& path
         ::unlinkat(folder.get(), temporary.c_str(), 0); // gone already when the rename was done
     }
     return error;
+}
+
+void removeTemporaryFiles(const std::string& folder) {
+    const FileDescriptor opened = openFolder(AT_FDCWD, folder.c_str(), LastLink::followed);
+    if (!opened.isOpen()) {
+        return;
+    }
+    DirectoryReader reader(opened.get());
+    DirectoryBlock entries;
+    while (reader.read(entries)) {
+        while (const auto entry = entries.next()) {
+            if (isTemporaryOfAnEndedProcess(entry->name)) {
+                ::unlinkat(opened.get(), entry->name, 0); // no folder, whatever its name
+            }
+        }
+    }
 }
 
 } // namespace drossbin

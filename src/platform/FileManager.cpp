@@ -167,4 +167,8 @@ std::error_code FileManager::writeAtomically(const std::string& text, const std:
     return drossbin::writeAtomically(text, path);
 }
 
+void FileManager::removeTemporaryFiles(const std::string& folder) {
+    drossbin::removeTemporaryFiles(folder);
+}
+
 } // namespace drossbin

@@ -56,6 +56,10 @@ class FileManager {
     /// Writes `text` to `path`: the file is there whole or not at all, whenever the program or
     /// the machine stops. Replaces what was there.
     static std::error_code writeAtomically(const std::string& text, const std::string& path);
+
+    /// Removes from a folder the files of `writeAtomically` whose process was killed before they
+    /// had their name.
+    static void removeTemporaryFiles(const std::string& folder);
 };
 
 } // namespace drossbin

@@ -1,0 +1,84 @@
+#include "platform/FileManager.h"
+#include "support/ScratchFolder.h"
+#include "support/SystemCalls.h"
+#include "support/TextFile.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <limits>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace drossbin {
+namespace {
+
+using test::contentOf;
+using test::ScratchFolder;
+using test::SystemCallHook;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Optional;
+
+/// Writes in a process that is killed when the whole text has only its temporary name.
+void killBeforeRename(const std::string& path) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const SystemCallHook hook([](const SystemCallHook::Call& call) {
+            return call.function == "renameat" ? ::raise(SIGKILL) : 0;
+        });
+        FileManager::writeAtomically("text", path);
+        ::_exit(0);
+    }
+    ::waitpid(child, nullptr, 0);
+}
+
+TEST(RemoveTemporaryFiles, clears_away_what_a_killed_program_left) {
+    const ScratchFolder scratch;
+    killBeforeRename(scratch / "log");
+    ASSERT_THAT(FileManager::contentsOfDirectory(scratch.path()),
+                Optional(ElementsAre(testing::StartsWith(".drossbin-"))));
+    FileManager::removeTemporaryFiles(scratch.path());
+    EXPECT_THAT(FileManager::contentsOfDirectory(scratch.path()), Optional(IsEmpty()));
+}
+
+TEST(RemoveTemporaryFiles, leaves_what_a_running_program_writes) {
+    const ScratchFolder scratch;
+    const SystemCallHook hook([&](const SystemCallHook::Call& call) {
+        if (call.function == "renameat") {
+            FileManager::removeTemporaryFiles(scratch.path());
+        }
+        return 0;
+    });
+    EXPECT_EQ(FileManager::writeAtomically("text", scratch / "log"), std::error_code());
+    EXPECT_EQ(contentOf(scratch / "log"), "text");
+}
+
+TEST(RemoveTemporaryFiles, leaves_all_that_has_another_name) {
+    const ScratchFolder scratch;
+    const std::string ended = std::to_string(std::numeric_limits<pid_t>::max());
+    const std::vector<std::string> others{".drossbin-",
+                                          ".drossbin--1",
+                                          ".drossbin-" + ended,
+                                          ".drossbin-" + ended + "-",
+                                          ".drossbin-" + ended + "-1x",
+                                          "drossbin-" + ended + "-1",
+                                          ".drossbin--" + ended + "-1",
+                                          ".drossbin-0-1"};
+    for (const std::string& name : others) {
+        scratch.file(name, 1);
+    }
+    scratch.file(".drossbin-" + ended + "-2/file", 1);
+    scratch.file(".drossbin-" + ended + "-1", 1);
+    FileManager::removeTemporaryFiles(scratch.path());
+    std::vector<std::string> left = others;
+    left.push_back(".drossbin-" + ended + "-2");
+    EXPECT_THAT(FileManager::contentsOfDirectory(scratch.path()),
+                Optional(testing::UnorderedElementsAreArray(left)));
+}
+
+} // namespace
+} // namespace drossbin
