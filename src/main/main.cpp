@@ -1,5 +1,6 @@
 #include "app/EventLoop.h"
 #include "platform/BackgroundThread.h"
+#include "platform/basics/Stop.h"
 #include "platform/words/Locale.h"
 #include "views/Renderer.h"
 #include "views/texts/Typeface.h"
@@ -33,6 +34,7 @@ void followTheUsersLocale() {
 } // namespace
 
 int main(int argc, char** argv) {
+    stopWhenOutOfMemory();
     writeNoCaches();
     const QGuiApplication application(argc, argv);
     // By it a Wayland desktop finds the window's icon.

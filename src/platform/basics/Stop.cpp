@@ -2,12 +2,17 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <new>
 
 namespace drossbin {
 
 void stopProgram(std::string_view line) {
     std::fprintf(stderr, "drossbin: %.*s\n", static_cast<int>(line.size()), line.data());
     std::abort();
+}
+
+void stopWhenOutOfMemory() {
+    std::set_new_handler([] { stopProgram("out of memory"); });
 }
 
 } // namespace drossbin
