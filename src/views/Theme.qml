@@ -128,7 +128,7 @@ QtObject {
     readonly property int warned: theme.lasting(250)
     readonly property int dimmed: theme.lasting(250)
     readonly property int standard: theme.lasting(350)
-    /// Of the landing screen's sign, in or out. It stands still where nothing moves.
+    /// Of what breathes, in or out. It stands still where nothing moves.
     readonly property int breathed: 1000
     /// How long the pointer or the keyboard rests before a tip comes; not a motion.
     readonly property int rested: 500

@@ -77,6 +77,27 @@ class ScreenReader(Journey):
         announcements.wait_for(FOCUSED, "push button", "Done")
         self.check_report(program)
 
+    def test_one_item_that_takes_long_shows_that_it_is_worked_on(self):
+        program = self.start_slow_on("Library/Caches/com.example.Editor")
+        self.scan(program)
+        program.press("check box", "com.example.Editor")
+        announcements = self.listen(SHOWING, FOCUSED)
+        program.press("push button", "Delete Selected")
+        program.press("push button", "Confirm & Delete")
+        announcements.wait_for(SHOWING, "dialog", "Deleting files...")
+        announcements.wait_for(FOCUSED, "progress bar", "Deleting files...")
+        ring = program.find("progress bar", "Deleting files...")
+        for glows in (True, False, True):
+            wait_for(f"the glow to be {glows}", lambda glows=glows: self.glows(program, ring) == glows)
+            self.assertEqual(ring.value[0], 0)
+        announcements.wait_for(FOCUSED, "push button", "Done")
+
+    def glows(self, program, ring):
+        """Whether the left of the ring, which has no arc yet, is rather blue than grey."""
+        area = ring.node.get_component_iface().get_extents(0)
+        red, _, blue = program.picture().getpixel((area.x + 2, area.y + area.height // 2))
+        return blue - red > 40
+
     def check_report(self, program):
         self.assertEqual(program.find("dialog", "Cleanup Complete!").description, "You freed 3.8 MB")
         wait_for(lambda: f"only the report to be open in\n{program.describe()}",

@@ -8,6 +8,9 @@ FocusScope {
     required property real progress
     required property string name
     property real lineWidth: 6
+    /// Whether a glow on the track comes and goes: it shows that the work goes on while its progress
+    /// stands still.
+    property bool isGlowing: false
     default property alias content: middle.data
 
     /// A new run starts with an empty ring; it does not unwind the last one.
@@ -32,6 +35,22 @@ FocusScope {
         trackColor: Theme.quaternary
         arcColor: Theme.blue
         Component.onCompleted: arc.progress = ring.progress
+    }
+
+    ProgressArc {
+        id: glow
+
+        anchors.fill: parent
+        visible: ring.isGlowing
+        opacity: 0
+        lineWidth: ring.lineWidth
+        trackColor: Theme.blue
+    }
+
+    Pulse {
+        item: glow
+        rest: 0
+        peak: 0.4
     }
 
     AccessItem {

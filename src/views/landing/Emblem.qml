@@ -1,22 +1,15 @@
 import QtQuick
-import Drossbin.Views
 
 /// The program's sign, which breathes for as long as somebody can see it.
 Rectangle {
     id: emblem
 
-    readonly property bool isPulsing: exposure.isSeen && emblem.visible && Theme.animated
+    readonly property alias isPulsing: pulse.running
 
     implicitWidth: 120
     implicitHeight: 120
     radius: height / 2
     color: Theme.tinted(Theme.blue, 0.08)
-
-    WindowVisibility {
-        id: exposure
-
-        window: emblem.Window.window
-    }
 
     Symbol {
         id: sign
@@ -25,21 +18,13 @@ Rectangle {
         name: "sparkle.magnifyingglass"
         size: 56
         color: Theme.blue
+    }
 
-        SequentialAnimation on opacity {
-            loops: Animation.Infinite
-            running: emblem.isPulsing
-            onStopped: sign.opacity = 1
+    Pulse {
+        id: pulse
 
-            EaseInOutMotion {
-                to: 0.45
-                duration: Theme.breathed
-            }
-
-            EaseInOutMotion {
-                to: 1
-                duration: Theme.breathed
-            }
-        }
+        item: sign
+        rest: 1
+        peak: 0.45
     }
 }

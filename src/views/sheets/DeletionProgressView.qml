@@ -22,6 +22,7 @@ FocusScope {
             width: 80
             height: 80
             lineWidth: 4
+            isGlowing: true
             progress: view.progress
             name: status.text
 

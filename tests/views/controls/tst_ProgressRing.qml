@@ -46,6 +46,10 @@ TestCase {
         return made;
     }
 
+    function glowOf(ring: ProgressRing): ProgressArc {
+        return ring.children[1];
+    }
+
     function colorAt(item: Item, x: real, y: real): color {
         return grabImage(item).pixel(x, y);
     }
@@ -116,6 +120,37 @@ TestCase {
         const made = make(1);
         made.progress = 0;
         compare(made.children[0].progress, 0);
+    }
+
+    function test_glow_comes_and_goes_on_the_track_while_the_progress_stands_still() {
+        Theme.animated = true;
+        time.hold();
+        const made = make(0);
+        made.isGlowing = true;
+        for (const opacity of [0.2, 0.4, 0.2, 0, 0.2]) {
+            time.pass(500);
+            fuzzyCompare(glowOf(made).opacity, opacity, 1e-3);
+            compare(made.children[0].progress, 0);
+        }
+        made.visible = false;
+        compare(glowOf(made).opacity, 0);
+    }
+
+    function test_a_ring_that_does_not_glow_moves_nothing() {
+        Theme.animated = true;
+        time.hold();
+        const made = make(0);
+        time.pass(500);
+        compare(glowOf(made).visible, false);
+        compare(glowOf(made).opacity, 0);
+    }
+
+    function test_reduced_motion_has_no_glow() {
+        time.hold();
+        const made = make(0);
+        made.isGlowing = true;
+        time.pass(500);
+        compare(glowOf(made).opacity, 0);
     }
 
     function test_is_a_progress_bar_with_its_value() {

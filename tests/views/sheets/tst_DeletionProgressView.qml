@@ -58,6 +58,10 @@ TestCase {
         compare(ring(view).lineWidth, 4);
     }
 
+    function test_ring_glows_for_one_large_item_can_take_minutes() {
+        compare(ring(make()).isGlowing, true);
+    }
+
     function test_stands_20_apart_padded_32() {
         const view = make();
         const status = find.label(view, "Deleting files...");
