@@ -21,6 +21,8 @@ class Failures(Journey):
         program.find("label", "Cleanup Complete!")
         failure = program.find("label", "❌ Failed: com.example.Stuck — Permission denied")
         success = program.find("label", f"✅ Deleted: com.example.Loose ({freed})")
+        report = program.find("dialog", "Cleanup Complete!")
+        self.assertEqual(report.description, f"You freed {freed}\n{failure.name}")
         self.assertTrue(self.is_red(program, failure))
         self.assertFalse(self.is_red(program, success))
         self.assertTrue(os.path.exists(os.path.join(stuck, "blob")))
