@@ -78,6 +78,11 @@ class Program:
     def names(self, role):
         return [control.name for control in self.shown(role)]
 
+    def walk(self):
+        """Everything in the tree with its depth, shown or not."""
+        root = self._application()
+        return root.walk() if root else ()
+
     def describe(self):
         root = self._application()
         if root is None:
@@ -146,6 +151,4 @@ class Program:
         return None
 
     def _all(self):
-        root = self._application()
-        if root is not None:
-            yield from (control for _, control in root.walk())
+        yield from (control for _, control in self.walk())
