@@ -1,6 +1,6 @@
 #include "app/CategoryListModel.h"
 
-#include "app/Texts.h"
+#include "app/Formatting.h"
 
 #include <utility>
 

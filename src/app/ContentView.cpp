@@ -1,10 +1,7 @@
 #include "app/ContentView.h"
 
-#include "app/Texts.h"
+#include "app/Formatting.h"
 
-#include <QGuiApplication>
-
-#include <algorithm>
 #include <utility>
 
 namespace drossbin {
@@ -70,36 +67,6 @@ bool ContentView::isBusy() const {
            m_scanResult.showDeletionComplete;
 }
 
-void ContentView::startScan(bool demo) {
-    if (!isBusy()) {
-        measureDisk();
-        performScan(demo);
-    }
-}
-
-void ContentView::confirmDeletion() {
-    if (m_scanResult.showConfirmation && !m_scanResult.isScanning && !m_scanResult.isDeleting) {
-        performDeletion();
-    }
-}
-
-void ContentView::requestDeletion() {
-    if (!isBusy()) {
-        m_scanResult.showConfirmation = true;
-    }
-}
-
-void ContentView::cancelDeletion() {
-    m_scanResult.showConfirmation = false;
-}
-
-void ContentView::dismissCompletion() {
-    if (m_scanResult.showDeletionComplete) {
-        m_scanResult.showDeletionComplete = false;
-        startScan(false);
-    }
-}
-
 void ContentView::smartSelect() {
     m_scanResult.selectAllSafe();
 }
@@ -118,15 +85,6 @@ void ContentView::deselectAllInCategory() {
 
 void ContentView::clearSelection() {
     m_scanResult.deselectAll();
-}
-
-bool ContentView::requestClose() {
-    m_closesAfterDeletion = m_scanResult.isDeleting;
-    return !m_closesAfterDeletion;
-}
-
-bool ContentView::optionHeld() {
-    return QGuiApplication::queryKeyboardModifiers().testFlag(Qt::AltModifier);
 }
 
 void ContentView::askForReducedMotion() {
@@ -155,7 +113,7 @@ void ContentView::refresh() {
         m_selectedItems.restart(itemsToDelete());
     }
     m_deletionLog.refresh(m_scanResult.deletionLog);
-    m_shown = ScreenState::of(m_scanResult, m_survey, m_selectedCategory, m_diskSpace);
+    m_shown = ScreenTexts::of(m_scanResult, m_survey, m_selectedCategory, m_diskSpace);
     emit shownChanged();
 }
 

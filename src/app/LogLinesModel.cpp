@@ -1,6 +1,6 @@
 #include "app/LogLinesModel.h"
 
-#include "app/Texts.h"
+#include "app/Formatting.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "app/Texts.h"
+#include "app/Formatting.h"
 
 #include "platform/words/ByteCountFormatter.h"
 #include "platform/words/DisplayText.h"

@@ -1,6 +1,6 @@
-#include "app/ScreenState.h"
+#include "app/ScreenTexts.h"
 
-#include "app/Texts.h"
+#include "app/Formatting.h"
 
 #include <algorithm>
 
@@ -18,7 +18,7 @@ double shareOf(std::int64_t bytes, std::int64_t diskSpace) {
     return diskSpace > 0 ? static_cast<double>(bytes) / static_cast<double>(diskSpace) : 0;
 }
 
-void describeProgress(const ScanResult& result, ScreenState& state) {
+void describeProgress(const ScanResult& result, ScreenTexts& state) {
     state.isScanning = result.isScanning;
     state.scanProgress = result.scanProgress;
     state.currentTask = toQString(result.currentTask.get());
@@ -31,7 +31,7 @@ void describeProgress(const ScanResult& result, ScreenState& state) {
     state.freedSpaceText = sizeText(result.freedSpace);
 }
 
-void describeSelection(const ItemSurvey& survey, ScreenState& state) {
+void describeSelection(const ItemSurvey& survey, ScreenTexts& state) {
     state.totalSummary = QStringLiteral("%1 items found · %2 total")
                              .arg(countText(survey.count), sizeText(survey.totalSize));
     state.hasSelection = survey.selectedCount > 0;
@@ -43,7 +43,7 @@ void describeSelection(const ItemSurvey& survey, ScreenState& state) {
     state.hasBrowserData = survey.hasBrowserData;
 }
 
-void describeCategory(DiskCategory category, const CategorySurvey& survey, ScreenState& state) {
+void describeCategory(DiskCategory category, const CategorySurvey& survey, ScreenTexts& state) {
     state.categoryName = toQString(rawValue(category));
     state.categoryIcon = toQString(icon(category));
     state.categorySubtitle = toQString(subtitle(category));
@@ -53,7 +53,7 @@ void describeCategory(DiskCategory category, const CategorySurvey& survey, Scree
             .arg(countText(survey.selectedCount), sizeText(survey.selectedSize));
 }
 
-void describeMeter(const ItemSurvey& survey, std::int64_t diskSpace, ScreenState& state) {
+void describeMeter(const ItemSurvey& survey, std::int64_t diskSpace, ScreenTexts& state) {
     state.isReclaiming = survey.selectedSize >= 1;
     state.meterCaption =
         state.isReclaiming ? QStringLiteral("Space to Reclaim") : QStringLiteral("Cache Found");
@@ -64,9 +64,9 @@ void describeMeter(const ItemSurvey& survey, std::int64_t diskSpace, ScreenState
 
 } // namespace
 
-ScreenState ScreenState::of(const ScanResult& result, const ItemSurvey& survey,
+ScreenTexts ScreenTexts::of(const ScanResult& result, const ItemSurvey& survey,
                             std::optional<DiskCategory> shown, std::int64_t diskSpace) {
-    ScreenState state;
+    ScreenTexts state;
     describeProgress(result, state);
     describeSelection(survey, state);
     if (shown) {

@@ -12,7 +12,7 @@
 namespace drossbin {
 
 /// What the screens show of the session at one moment, in the words and shares that they show.
-struct ScreenState {
+struct ScreenTexts {
     Q_GADGET
     QML_ANONYMOUS
     Q_PROPERTY(bool isScanning MEMBER isScanning)
@@ -78,7 +78,7 @@ struct ScreenState {
 
     /// `shown` is the category whose list is open; without one its texts are empty. `survey` must
     /// be the result's own. `diskSpace` is what the meter's shares are shares of.
-    static ScreenState of(const ScanResult& result, const ItemSurvey& survey,
+    static ScreenTexts of(const ScanResult& result, const ItemSurvey& survey,
                           std::optional<DiskCategory> shown, std::int64_t diskSpace);
 };
 
