@@ -1,0 +1,72 @@
+"""What the program reaches for besides the disk: no network, no other program, no code but its own and
+the system's."""
+
+import os
+import re
+
+import slow
+from journey import Journey, main
+
+RIGHTS = "setuid,setgid,setreuid,setregid,setresuid,setresgid,setgroups,capset"
+CALLS = f"execve,execveat,socket,openat,mmap,{RIGHTS}"
+CODE = re.compile(r"\.so\b|\.qml$|\.qmlc$|\.jsc?$|\.mjs$|/qmldir$|\.qm$|\.conf$")
+SYSTEM = ("/usr/", "/lib/", "/lib64/", "/etc/")
+
+
+class Reach(Journey):
+    def setUp(self):
+        super().setUp()
+        if not slow.is_possible():
+            self.skipTest("the program cannot be traced here")
+        self.trace = os.path.join(self.world.root, "trace")
+        self.watch = ["strace", "-f", "-qq", "-y", "-s", "4096", "-o", self.trace, "-e", f"trace={CALLS}"]
+        self.home.file("Library/Caches/com.example.Editor/index", 3_000_000)
+
+    def use(self, **environment):
+        """Starts the program, scans, deletes, and ends it."""
+        program = self.start(wrapper=self.watch, **environment)
+        self.scan(program)
+        program.press("check box", "com.example.Editor")
+        program.press("push button", "Delete Selected")
+        program.press("push button", "Confirm & Delete")
+        program.press("push button", "Done")
+        program.wait_until_gone("label", "Cleanup Complete!")
+        self.assertEqual((program.close(), program.errors()), (0, ""))
+        self.read_trace()
+
+    def read_trace(self):
+        with open(self.trace, encoding="utf-8", errors="replace") as lines:
+            self.calls = [re.sub(r"^\d+ +", "", line) for line in lines]
+        # Before it becomes the program, the process is the one that lets it end with the journey.
+        own = next(n for n, call in enumerate(self.calls) if call.startswith(f'execve("{self.program_path}"'))
+        self.calls = self.calls[own:]
+
+    def arguments(self, pattern):
+        """What the pattern's group is in the calls that it fits."""
+        return {match[1] for match in (re.match(pattern, call) for call in self.calls) if match}
+
+    def foreign(self, paths):
+        own = os.path.dirname(self.program_path) + "/"
+        return {path for path in paths if not path.startswith((*SYSTEM, own))}
+
+    def assert_reaches_for_nothing(self):
+        self.assertEqual(self.arguments(r'execve(?:at)?\([^"]*"([^"]*)"'), {self.program_path})
+        self.assertEqual(self.arguments(r"socket\((\w+)"), {"AF_UNIX"})
+        self.assertEqual(self.arguments(rf"({RIGHTS.replace(',', '|')})\("), set())
+        mapped = self.arguments(r"mmap\([^<]*PROT_EXEC[^<]*<([^>]*)>")
+        self.assertTrue(any("/libQt6Core.so" in path for path in mapped))
+        self.assertEqual(self.foreign(mapped), set())
+        # Looked for, whether it was there or not.
+        looked = {path for path in self.opened() if CODE.search(path)}
+        self.assertEqual(self.foreign(looked), {self.world.environment()["FONTCONFIG_FILE"]})
+
+    def opened(self):
+        return self.arguments(r'openat\([^"]*"([^"]*)"')
+
+    def test_it_opens_no_network_starts_no_program_and_loads_the_systems_code(self):
+        self.use()
+        self.assert_reaches_for_nothing()
+
+
+if __name__ == "__main__":
+    main()
