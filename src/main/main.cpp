@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QLocale>
 #include <QQmlApplicationEngine>
+#include <QUrl>
 
 #include <cstdlib>
 
@@ -25,6 +26,24 @@ void writeNoCaches() {
     qputenv("__GL_SHADER_DISK_CACHE", "0");
 }
 
+/// Plugins and QML come from where Qt is installed, not from folders that the environment names:
+/// what another program keeps there for itself has no place in one that deletes.
+void loadNoCodeFromElsewhere() {
+    for (const char* const name :
+         {"QT_PLUGIN_PATH", "QT_QPA_PLATFORM_PLUGIN_PATH", "QML_IMPORT_PATH", "QML2_IMPORT_PATH"}) {
+        qunsetenv(name);
+    }
+}
+
+/// Where no session bus runs, D-Bus would start one: by a program that it looks for along PATH. It
+/// looks itself where desktops have their bus, but only when it is told to does it stay with that.
+void startNoBus() {
+    if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")) {
+        const QString bus = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + QUrl::toPercentEncoding(bus, "/"));
+    }
+}
+
 void followTheUsersLocale() {
     const QLocale locale = QLocale::system();
     const bool isNone = locale.language() == QLocale::C;
@@ -36,6 +55,8 @@ void followTheUsersLocale() {
 int main(int argc, char** argv) {
     stopWhenOutOfMemory();
     writeNoCaches();
+    loadNoCodeFromElsewhere();
+    startNoBus();
     const QGuiApplication application(argc, argv);
     // By it a Wayland desktop finds the window's icon.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.drossbin.Drossbin"));

@@ -3,14 +3,19 @@ the system's."""
 
 import os
 import re
+import subprocess
 
 import slow
+from desktop import dies_with_us
+from driver import FIXED, PATIENCE, wait_for
 from journey import Journey, main
 
 RIGHTS = "setuid,setgid,setreuid,setregid,setresuid,setresgid,setgroups,capset"
 CALLS = f"execve,execveat,socket,openat,mmap,{RIGHTS}"
 CODE = re.compile(r"\.so\b|\.qml$|\.qmlc$|\.jsc?$|\.mjs$|/qmldir$|\.qm$|\.conf$")
 SYSTEM = ("/usr/", "/lib/", "/lib64/", "/etc/")
+# Where the environment would have Qt look for plugins and for QML.
+FOLDERS_OF_CODE = ("QT_PLUGIN_PATH", "QT_QPA_PLATFORM_PLUGIN_PATH", "QML_IMPORT_PATH", "QML2_IMPORT_PATH")
 
 
 class Reach(Journey):
@@ -65,6 +70,26 @@ class Reach(Journey):
 
     def test_it_opens_no_network_starts_no_program_and_loads_the_systems_code(self):
         self.use()
+        self.assert_reaches_for_nothing()
+
+    def test_it_loads_nothing_from_folders_that_the_environment_names(self):
+        plugins = os.path.join(self.home.path, "plugins")
+        os.makedirs(os.path.join(plugins, "platforms"))
+        self.home.file("plugins/QtQuick/qmldir", 0)
+        self.use(**dict.fromkeys(FOLDERS_OF_CODE, plugins))
+        self.assert_reaches_for_nothing()
+        self.assertEqual({path for path in self.opened() if path.startswith(plugins)}, set())
+
+    def test_it_starts_no_message_bus_where_there_is_none(self):
+        program = subprocess.Popen(
+            [*self.watch, *dies_with_us([self.program_path])],
+            env={**self.world.environment(**self.desktop.environment(), **FIXED), "DBUS_SESSION_BUS_ADDRESS": ""},
+            stderr=subprocess.PIPE, text=True)
+        self.addCleanup(program.kill)
+        self.desktop.ask_to_close(wait_for("the window", lambda: self.desktop.window("Drossbin")))
+        self.assertEqual(program.communicate(timeout=PATIENCE)[1], "")
+        self.assertEqual(program.returncode, 0)
+        self.read_trace()
         self.assert_reaches_for_nothing()
 
 
