@@ -32,7 +32,7 @@ package_list=(
   "bench|filelight qdirstat baobab bleachbit stacer||compare how programs with a window start"
   "bench|libxcb1-dev libxcb-damage0-dev pkg-config libgl1-mesa-dri||see when a window is painted"
   "bench|python3|python|time programs and print the table"
-  "check|clang-format clang-tidy clang|clang-format llvm|check the style of the sources"
+  "check|clang-format clang-tidy clang cppcheck|clang-format llvm cppcheck|check the style of the sources"
   "portable|clang-19 libc++-19-dev libc++abi-19-dev||the compiler and the C++ library that are nearest to macOS's"
   "portable|googletest||tests of the logic, built with that library"
 )

@@ -38,7 +38,8 @@ std::string withoutTrailingSlashes(std::string path) {
 }
 
 std::string homeDirectoryInEnvironment() {
-    const char* const home = std::getenv("HOME");
+    // The environment is changed before the first thread starts, and never after.
+    const char* const home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe)
     return home != nullptr ? home : "";
 }
 

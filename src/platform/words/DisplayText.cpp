@@ -39,9 +39,10 @@ icu::UnicodeString escape(UChar32 character) {
     }
     constexpr UChar32 lastByte = 0xFF;
     std::array<char, 16> text{};
-    std::snprintf(text.data(), text.size(), character <= lastByte ? "\\x%02X" : "\\u%04X",
-                  static_cast<unsigned>(character));
-    return icu::UnicodeString::fromUTF8(text.data());
+    const int length =
+        std::snprintf(text.data(), text.size(), character <= lastByte ? "\\x%02X" : "\\u%04X",
+                      static_cast<unsigned>(character));
+    return icu::UnicodeString::fromUTF8({text.data(), length});
 }
 
 } // namespace
