@@ -44,6 +44,8 @@ Item {
                 Session {
                     width: host.width
                     height: host.height
+                    LayoutMirroring.enabled: Theme.mirrored
+                    LayoutMirroring.childrenInherit: true
                 }
             }
 
@@ -74,6 +76,7 @@ Item {
             function resize(size: var) {
                 host.width = size.width;
                 host.height = size.height;
+                Theme.mirrored = size.mirrored ?? false;
             }
 
             /// What is read or pressed, but for rows that a list cuts at its edge.
@@ -116,6 +119,7 @@ Item {
                     const place = area(one);
                     verify(place.width >= 0 && place.x >= 0 && place.right <= host.width, told(one));
                     verify(place.y >= 0 && place.bottom <= host.height, told(one));
+                    verify(!one.truncated, told(one));
                     const others = all.slice(index + 1).filter(other => !isIn(other, one));
                     others.forEach(other => verify(!overlap(place, area(other)), `${told(one)} on ${told(other)}`));
                 });
@@ -130,7 +134,10 @@ Item {
                     { tag: "640 x 400", width: 640, height: 400 },
                     { tag: "700 x 440", width: 700, height: 440 },
                     { tag: "900 x 614", width: 900, height: 614 },
-                    { tag: "900 x 650", width: 900, height: 650 }
+                    { tag: "900 x 650", width: 900, height: 650 },
+                    { tag: "1350 x 1300", width: 1350, height: 1300 },
+                    { tag: "640 x 400, right to left", width: 640, height: 400, mirrored: true },
+                    { tag: "900 x 650, right to left", width: 900, height: 650, mirrored: true }
                 ];
             }
 
@@ -142,6 +149,8 @@ Item {
                 resize(data);
                 const made = make({ perCategory: 22, firstName: "Firefox" });
                 verifyPlaces(made, ["110 items found · 110 MB total"]);
+                const sidebar = area(find.control(made, Accessible.List, "Categories"));
+                compare(sidebar.left > host.width / 2, data.mirrored ?? false);
                 made.content.smartSelect();
                 tryVerify(() => find.button(made, "Delete 110 MB") !== null);
                 verifyPlaces(made, ["Program Caches", "22 items · 22 MB", "Space to Reclaim"]);

@@ -78,7 +78,8 @@ PressButton {
         }
 
         PlainLabel {
-            width: parent.width
+            // In the narrowest card the longest needs some of the room beside it.
+            width: parent.width + Theme.space8
             text: card.subtitle
             font.pixelSize: Theme.caption
             color: Theme.secondary
