@@ -7,7 +7,7 @@ import subprocess
 import sys
 
 from PIL import ImageGrab
-from Xlib import XK, X, display, protocol
+from Xlib import XK, X, display, error, protocol
 from Xlib.ext import xtest
 
 
@@ -28,7 +28,11 @@ class Desktop:
     def want_no_motion(self):
         """Has every program that starts from now on told that the user wants no animations."""
         script = os.path.join(os.path.dirname(os.path.abspath(__file__)), "portal.py")
-        self._start([sys.executable, script], self.environment())
+        self.serve([sys.executable, script])
+
+    def serve(self, command):
+        """Has it run until the desktop is closed; returns when it has written its first line."""
+        self._start(command, self.environment())
 
     def close(self):
         self._x.close()
@@ -71,15 +75,23 @@ class Desktop:
     # Windows
 
     def window(self, title):
-        """The window of that title, or None."""
-        for window in self._x.screen().root.query_tree().children:
-            with contextlib.suppress(Exception):  # a window may vanish while we look at it
-                if window.get_wm_name() == title:
+        """The window of that title or class, or None."""
+        return self._window_below(self._x.screen().root, title)
+
+    def _window_below(self, above, title):
+        with contextlib.suppress(Exception):  # a window may vanish while we look at it
+            for window in above.query_tree().children:
+                if title in (window.get_wm_name(), *(window.get_wm_class() or ())):
                     return window
+                found = self._window_below(window, title)
+                if found:
+                    return found
         return None
 
     def focus(self, window):
-        window.set_input_focus(X.RevertToParent, X.CurrentTime)
+        # A window that is not shown yet gets it from its window manager.
+        not_shown = error.CatchError(error.BadMatch)
+        window.set_input_focus(X.RevertToParent, X.CurrentTime, onerror=not_shown)
         self._x.sync()
 
     def resize(self, window, width, height):

@@ -55,14 +55,15 @@ class Journey(unittest.TestCase):
             self.skipTest("no mount namespace can be made here, and it would reach into /var/log")
 
 
-def main(as_ordinary_user=False):
-    """Runs the calling script's journeys: first to enter a new world, then in there."""
+def main(as_ordinary_user=False, screen=(1280, 900)):
+    """Runs the calling script's journeys: first to enter a new world, then in there, on a screen of
+    that size."""
     world = worlds.inside()
     if world is None:
         script = os.path.abspath(sys.argv[0])
         sys.exit(worlds.run_inside(script, sys.argv[1:], as_ordinary_user))
     os.environ.update(world.environment())
-    desktop = Desktop(world)
+    desktop = Desktop(world, screen)
     os.environ.update(desktop.environment())
     Journey.world, Journey.desktop, Journey.program_path = world, desktop, sys.argv[1]
     result = unittest.main(

@@ -3,13 +3,11 @@ is there but what the package asks for. scripts/check-package prepares all that 
 root folder of the clean Debian."""
 
 import os
-import subprocess
 import sys
 
-from desktop import dies_with_us
-from driver import wait_for
 from home import measured, size_text
 from journey import Journey, main
+from wayland import WaylandDesktop
 
 ROOT = sys.argv.pop(1)
 # Into the clean Debian, where the right to go there is given up.
@@ -56,45 +54,11 @@ class OnX11(Installed, Journey):
         self.assertEqual(program.errors(), "")
 
 
-class WaylandDesktop:
-    """The desktop of the journeys, but for the window: that is a compositor's."""
-
-    def __init__(self, desktop, socket):
-        self._desktop = desktop
-        self._socket = socket
-
-    def environment(self):
-        return {**self._desktop.environment(), "WAYLAND_DISPLAY": self._socket}
-
-    def window(self, title):
-        return title
-
-    def focus(self, window):
-        pass
-
-
 class OnWayland(Installed, Journey):
     def start_installed(self):
-        socket = self.start_compositor()
-        self.desktop = WaylandDesktop(self.desktop, socket)
+        self.desktop = WaylandDesktop(self.world, self.desktop)
+        self.addCleanup(self.desktop.close)
         return self.start(wrapper=WRAPPER, QT_QPA_PLATFORM="wayland", **FONTS)
-
-    def start_compositor(self):
-        """One that shows its screen in a window, because without a seat, as on no screen at all, Qt 6.4
-        falls over the first text field."""
-        socket = os.path.join(self.world.root, "runtime", "compositor")
-        command = ["weston", "--backend=x11-backend.so", "--use-pixman", "--no-config",
-                   f"--socket={os.path.basename(socket)}"]
-        compositor = subprocess.Popen(
-            dies_with_us(command),
-            env=self.world.environment(**self.desktop.environment()),
-            stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
-        )
-        self.addCleanup(compositor.wait)
-        self.addCleanup(compositor.kill)
-        wait_for("the compositor", lambda: os.path.exists(socket))
-        return socket
 
 
 if __name__ == "__main__":
