@@ -1,5 +1,6 @@
 #include "HeldContentView.h"
 #include "HeldKey.h"
+#include "HeldPalette.h"
 #include "HeldTime.h"
 #include "app/EventLoop.h"
 #include "platform/words/Locale.h"
@@ -41,6 +42,7 @@ class Setup : public QObject {
         engine->addImportPath(QStringLiteral("qrc:/"));
         qmlRegisterType<drossbin::test::HeldKey>("Drossbin.Test", 1, 0, "HeldKey");
         qmlRegisterType<drossbin::test::HeldContentView>("Drossbin.Test", 1, 0, "HeldContentView");
+        qmlRegisterType<drossbin::test::HeldPalette>("Drossbin.Test", 1, 0, "HeldPalette");
         qmlRegisterType<drossbin::test::HeldTime>("Drossbin.Test", 1, 0, "HeldTime");
     }
 };
