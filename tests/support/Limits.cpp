@@ -19,11 +19,10 @@ void check(bool holds, const char* what) {
 }
 
 void becomeOrdinaryUser() {
-    constexpr uid_t nobodyElse = 54321;
     if (::geteuid() == 0) {
         check(::setgroups(0, nullptr) == 0, "setgroups");
-        check(::setgid(nobodyElse) == 0, "setgid");
-        check(::setuid(nobodyElse) == 0, "setuid");
+        check(::setgid(ordinaryUser) == 0, "setgid");
+        check(::setuid(ordinaryUser) == 0, "setuid");
     }
 }
 

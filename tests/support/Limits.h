@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <sys/resource.h>
+#include <sys/types.h>
 #include <vector>
 
 namespace drossbin::test {
@@ -26,6 +27,9 @@ class FewDescriptors {
 
 /// Runs `job` on a thread with a stack of 256 KiB and waits for its end.
 void runOnSmallStack(const std::function<void()>& job);
+
+/// Whom the job below runs as where the superuser runs the tests: somebody without an account.
+inline constexpr uid_t ordinaryUser = 54321;
 
 /// Runs `job` in a child process as a user without privileges, whoever runs the tests; returns
 /// what `job` returned. What it touches must be within that user's reach.
