@@ -79,6 +79,17 @@ bool mountAgain(const std::string& source, const std::string& path) {
     return ::mount(source.c_str(), path.c_str(), nullptr, MS_BIND, nullptr) == 0;
 }
 
+bool makeReadOnly(const std::string& path) {
+    const unsigned long flags = MS_REMOUNT | MS_BIND | MS_RDONLY;
+    return ::mount("none", path.c_str(), nullptr, flags, nullptr) == 0;
+}
+
+bool mountOverlay(const std::string& folder) {
+    const std::string layers =
+        "lowerdir=" + folder + "/lower,upperdir=" + folder + "/changed,workdir=" + folder + "/work";
+    return ::mount("overlay", (folder + "/shown").c_str(), "overlay", 0, layers.c_str()) == 0;
+}
+
 #else
 
 bool mountMemory(const std::string& /*path*/, const std::string& /*size*/) {
@@ -90,6 +101,14 @@ bool mountBtrfs(const std::string& /*path*/) {
 }
 
 bool mountAgain(const std::string& /*source*/, const std::string& /*path*/) {
+    return false;
+}
+
+bool makeReadOnly(const std::string& /*path*/) {
+    return false;
+}
+
+bool mountOverlay(const std::string& /*folder*/) {
     return false;
 }
 

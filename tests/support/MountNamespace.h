@@ -21,4 +21,11 @@ bool mountBtrfs(const std::string& path);
 /// Shows the file or folder at `source` at `path` too.
 bool mountAgain(const std::string& source, const std::string& path);
 
+/// Lets nobody write to what is mounted at `path`.
+bool makeReadOnly(const std::string& path);
+
+/// Shows the folder "lower" of `folder` at "shown" beside it; what is changed there goes to
+/// "changed". The three and a "work" of the overlay's own have to be there.
+bool mountOverlay(const std::string& folder);
+
 } // namespace drossbin::test

@@ -95,6 +95,55 @@ TEST(RemovalOnAMount, removes_an_item_that_lies_on_it_whole) {
     });
 }
 
+TEST(RemovalOnAReadOnlyMount, fails_and_leaves_all) {
+    const ScratchFolder scratch;
+    const std::string mount = scratch.folder("mount");
+    scratch.file("outside/item/file", 1);
+    expectWithMountNamespace([&] {
+        return mountAgain(scratch / "outside", mount) && test::makeReadOnly(mount) &&
+               FileManager::removeItem(mount + "/item") == std::errc::read_only_file_system &&
+               isThere(scratch / "outside/item/file");
+    });
+}
+
+/// A folder for an overlay, which would have to lie on a file system that can carry one.
+bool carriesOverlay(const ScratchFolder& scratch) {
+    for (const char* folder : {"lower", "changed", "work", "shown"}) {
+        scratch.folder(folder);
+    }
+    return test::holdsInMountNamespace([&] { return test::mountOverlay(scratch.path()); })
+        .value_or(false);
+}
+
+// What lies below is hidden by whiteouts, and folders may be of both layers.
+TEST(RemovalOnAnOverlay, removes_what_is_of_either_layer_and_leaves_the_lower_one_as_it_is) {
+    const ScratchFolder scratch;
+    if (!carriesOverlay(scratch)) {
+        GTEST_SKIP() << "no overlay can be mounted here";
+    }
+    scratch.file("lower/item/below/file", 1);
+    scratch.file("changed/item/below/other", 1);
+    scratch.file("changed/item/above/file", 1);
+    expectWithMountNamespace([&] {
+        return test::mountOverlay(scratch.path()) && isThere(scratch / "shown/item/below/other") &&
+               !FileManager::removeItem(scratch / "shown/item") &&
+               !isThere(scratch / "shown/item") && isThere(scratch / "lower/item/below/file");
+    });
+}
+
+TEST(RemovalOfAnItemWithAnOverlayInside, fails_and_leaves_both_layers_alone) {
+    const ScratchFolder scratch;
+    if (!carriesOverlay(scratch)) {
+        GTEST_SKIP() << "no overlay can be mounted here";
+    }
+    scratch.file("lower/file", 1);
+    scratch.file("changed/other", 1);
+    expectWithMountNamespace([&] {
+        return test::mountOverlay(scratch.path()) && isBusy(scratch / "shown") &&
+               isThere(scratch / "shown/file") && isThere(scratch / "changed/other");
+    });
+}
+
 #ifdef DROSSBIN_LINUX
 // A subvolume of Btrfs, as a "~/.cache" kept out of snapshots is one, was once taken for a mount.
 TEST(RemovalOfASubvolume, removes_it_with_all_that_is_in_it_subvolumes_too) {
