@@ -34,6 +34,7 @@ package_list=(
   "bench|libxcb1-dev libxcb-damage0-dev pkg-config libgl1-mesa-dri||see when a window is painted"
   "bench|python3|python|time programs and print the table"
   "check|clang-format clang-tidy clang cppcheck|clang-format llvm cppcheck|check the style of the sources"
+  "fuzz|clang-14 libclang-rt-14-dev||try what reads bytes from outside with made-up ones"
   "portable|clang-19 libc++-19-dev libc++abi-19-dev||the compiler and the C++ library that are nearest to macOS's"
   "portable|googletest||tests of the logic, built with that library"
 )
