@@ -120,6 +120,10 @@ struct FlaggedSituation {
     std::vector<std::string> left;
 };
 
+void PrintTo(const FlaggedSituation& situation, std::ostream* stream) {
+    *stream << situation.name;
+}
+
 class RemovalOfWhatIsFlagged : public testing::TestWithParam<FlaggedSituation> {};
 
 TEST_P(RemovalOfWhatIsFlagged, leaves_exactly_what_it_should) {
