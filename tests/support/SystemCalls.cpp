@@ -1,59 +1,62 @@
 #include "support/SystemCalls.h"
 
+#include "support/SystemFunction.h"
+
 #include <atomic>
 #include <cerrno>
 #include <cstdarg>
 #include <dirent.h>
-#include <dlfcn.h>
 #include <fcntl.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
-#ifndef __THROW
-#define __THROW
-#endif
-
 namespace drossbin::test {
 
 namespace {
 
 thread_local const SystemCallHook::Hook* currentHook = nullptr;
+std::atomic<const SystemCallHook::Hook*> everyThreadsHook = nullptr;
+thread_local bool isAsking = false;
 thread_local bool hidesKinds = false;
 std::atomic<const StandInFolder*> standIn = nullptr;
-
-/// Whether the call may go on; if not, `errno` is set. What the hook itself does leaves no trace
-/// in `errno`: it belongs to the caller, who is about to find out what only its own call did.
-bool isLetThrough(const SystemCallHook::Call& call) {
-    const int before = errno;
-    const SystemCallHook::Hook* hook = std::exchange(currentHook, nullptr);
-    const int error = hook != nullptr ? (*hook)(call) : 0;
-    currentHook = hook;
-    errno = error != 0 ? error : before;
-    return error == 0;
-}
 
 const char* ledFrom(const char* path) {
     const StandInFolder* const folder = standIn;
     return folder != nullptr ? folder->pathFor(path) : path;
 }
 
-template <class Function>
-Function* systemFunction(Function* /*ours*/, const char* name) {
-    return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
-}
-
 } // namespace
 
-SystemCallHook::SystemCallHook(Hook hook)
+SystemCallHook::SystemCallHook(Hook hook, Threads threads)
     : m_hook(std::move(hook)) {
-    currentHook = &m_hook;
+    if (threads == Threads::all) {
+        everyThreadsHook = &m_hook;
+    } else {
+        currentHook = &m_hook;
+    }
 }
 
 SystemCallHook::~SystemCallHook() {
+    everyThreadsHook = nullptr;
     currentHook = nullptr;
     hidesKinds = false;
+}
+
+// What the hook itself does leaves no trace in `errno`: it belongs to the caller, who is about to
+// find out what only its own call did.
+bool SystemCallHook::isLetThrough(const Call& call) {
+    const Hook* const hook = currentHook != nullptr ? currentHook : everyThreadsHook.load();
+    if (hook == nullptr || isAsking) {
+        return true;
+    }
+    const int before = errno;
+    isAsking = true;
+    const int error = (*hook)(call);
+    isAsking = false;
+    errno = error != 0 ? error : before;
+    return error == 0;
 }
 
 void SystemCallHook::hideKinds() {
@@ -74,26 +77,10 @@ const char* StandInFolder::pathFor(const char* path) const {
     return m_place == path ? m_folder.c_str() : path;
 }
 
-std::vector<std::string> namesOpenedBy(const std::function<void()>& job, bool hidesKinds) {
-    std::vector<std::string> names;
-    SystemCallHook hook([&](const SystemCallHook::Call& call) {
-        // Some systems read a folder through another opening of the same.
-        if (call.function == "openat" && call.name != ".") {
-            names.emplace_back(call.name);
-        }
-        return 0;
-    });
-    if (hidesKinds) {
-        hook.hideKinds();
-    }
-    job();
-    return names;
-}
-
 } // namespace drossbin::test
 
-using drossbin::test::isLetThrough;
 using drossbin::test::ledFrom;
+using drossbin::test::SystemCallHook;
 using drossbin::test::systemFunction;
 
 // NOLINTBEGIN: the names and signatures are the system's
@@ -106,52 +93,55 @@ int openat(int folder, const char* name, int flags, ...) {
     va_start(arguments, flags);
     const auto mode = (flags & O_CREAT) != 0 ? va_arg(arguments, unsigned int) : 0U;
     va_end(arguments);
-    return isLetThrough({"openat", name}) ? next(folder, ledFrom(name), flags, mode) : -1;
+    return SystemCallHook::isLetThrough({"openat", name}) ? next(folder, ledFrom(name), flags, mode)
+                                                          : -1;
 }
 
 int unlinkat(int folder, const char* name, int flags) __THROW {
     static const auto next = systemFunction(&unlinkat, "unlinkat");
-    return isLetThrough({"unlinkat", name}) ? next(folder, name, flags) : -1;
+    return SystemCallHook::isLetThrough({"unlinkat", name}) ? next(folder, name, flags) : -1;
 }
 
 int fstatat(int folder, const char* name, struct stat* status, int flags) __THROW {
     static const auto next = systemFunction(&fstatat, "fstatat");
-    return isLetThrough({"fstatat", name}) ? next(folder, name, status, flags) : -1;
+    return SystemCallHook::isLetThrough({"fstatat", name}) ? next(folder, name, status, flags) : -1;
 }
 
 int fstat(int file, struct stat* status) __THROW {
     static const auto next = systemFunction(&fstat, "fstat");
-    return isLetThrough({"fstat", ""}) ? next(file, status) : -1;
+    return SystemCallHook::isLetThrough({"fstat", ""}) ? next(file, status) : -1;
 }
 
 int lstat(const char* path, struct stat* status) __THROW {
     static const auto next = systemFunction(&lstat, "lstat");
-    return isLetThrough({"lstat", path}) ? next(ledFrom(path), status) : -1;
+    return SystemCallHook::isLetThrough({"lstat", path}) ? next(ledFrom(path), status) : -1;
 }
 
 ssize_t write(int file, const void* bytes, size_t size) {
     static const auto next = systemFunction(&write, "write");
-    return isLetThrough({"write", "", &size}) ? next(file, bytes, size) : -1;
+    return SystemCallHook::isLetThrough({"write", "", &size}) ? next(file, bytes, size) : -1;
 }
 
 int fsync(int file) {
     static const auto next = systemFunction(&fsync, "fsync");
-    return isLetThrough({"fsync", ""}) ? next(file) : -1;
+    return SystemCallHook::isLetThrough({"fsync", ""}) ? next(file) : -1;
 }
 
 int renameat(int from, const char* oldName, int to, const char* newName) __THROW {
     static const auto next = systemFunction(&renameat, "renameat");
-    return isLetThrough({"renameat", newName}) ? next(from, oldName, to, newName) : -1;
+    return SystemCallHook::isLetThrough({"renameat", newName}) ? next(from, oldName, to, newName)
+                                                               : -1;
 }
 
 int mkdir(const char* path, mode_t mode) __THROW {
     static const auto next = systemFunction(&mkdir, "mkdir");
-    return isLetThrough({"mkdir", path}) ? next(path, mode) : -1;
+    return SystemCallHook::isLetThrough({"mkdir", path}) ? next(path, mode) : -1;
 }
 
 int getpwuid_r(uid_t user, struct passwd* entry, char* buffer, size_t size, struct passwd** found) {
     static const auto next = systemFunction(&getpwuid_r, "getpwuid_r");
-    return isLetThrough({"getpwuid_r", ""}) ? next(user, entry, buffer, size, found) : errno;
+    return SystemCallHook::isLetThrough({"getpwuid_r", ""}) ? next(user, entry, buffer, size, found)
+                                                            : errno;
 }
 
 #ifdef DROSSBIN_LINUX
@@ -159,12 +149,13 @@ int getpwuid_r(uid_t user, struct passwd* entry, char* buffer, size_t size, stru
 int statx(int folder, const char* name, int flags, unsigned int fields,
           struct statx* status) __THROW {
     static const auto next = systemFunction(&statx, "statx");
-    return isLetThrough({"statx", name}) ? next(folder, name, flags, fields, status) : -1;
+    return SystemCallHook::isLetThrough({"statx", name}) ? next(folder, name, flags, fields, status)
+                                                         : -1;
 }
 
 ssize_t getdents64(int folder, void* records, size_t size) __THROW {
     static const auto next = systemFunction(&getdents64, "getdents64");
-    if (!isLetThrough({"getdents64", ""})) {
+    if (!SystemCallHook::isLetThrough({"getdents64", ""})) {
         return -1;
     }
     const ssize_t end = next(folder, records, size);
@@ -180,7 +171,7 @@ ssize_t getdents64(int folder, void* records, size_t size) __THROW {
 
 dirent* readdir(DIR* folder) {
     static const auto next = systemFunction(&readdir, "readdir");
-    dirent* const record = isLetThrough({"readdir", ""}) ? next(folder) : nullptr;
+    dirent* const record = SystemCallHook::isLetThrough({"readdir", ""}) ? next(folder) : nullptr;
     if (record != nullptr && drossbin::test::hidesKinds) {
         record->d_type = DT_UNKNOWN;
     }

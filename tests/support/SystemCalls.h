@@ -4,7 +4,6 @@
 #include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace drossbin::test {
 
@@ -15,9 +14,9 @@ inline constexpr std::string_view readsFolder = "getdents64";
 inline constexpr std::string_view readsFolder = "readdir";
 #endif
 
-/// While it lives, `hook` is asked before each call that this thread makes to the file system or
-/// the user database: it may make the call fail, shorten it, or change the disk in between. Its own
-/// calls go through.
+/// While it lives, `hook` is asked before each call that this thread, or every one, makes to the
+/// file system or the user database: it may make the call fail, shorten it, or change the disk in
+/// between. Its own calls go through.
 ///
 /// A program that uses this has functions of its own in front of the system's: openat, unlinkat,
 /// fstatat, fstat, lstat, statx, getdents64 or readdir, write, fsync, renameat, mkdir and
@@ -33,12 +32,17 @@ class SystemCallHook {
     /// Returns the error number that the call is to fail with, or 0 to let it through.
     using Hook = std::function<int(const Call&)>;
 
-    explicit SystemCallHook(Hook hook);
+    enum class Threads : bool { current, all };
+
+    explicit SystemCallHook(Hook hook, Threads threads = Threads::current);
     ~SystemCallHook();
     SystemCallHook(const SystemCallHook&) = delete;
     SystemCallHook& operator=(const SystemCallHook&) = delete;
     SystemCallHook(SystemCallHook&&) = delete;
     SystemCallHook& operator=(SystemCallHook&&) = delete;
+
+    /// Whether the call may go on; if not, `errno` is set. For the functions in front.
+    static bool isLetThrough(const Call& call);
 
     /// Makes folders keep the kinds of their entries to themselves, as some file systems do.
     void hideKinds();
@@ -65,8 +69,5 @@ class StandInFolder {
     std::string m_place;
     std::string m_folder;
 };
-
-/// The names that `job` opens. Where `hidesKinds`, folders keep those of their entries back.
-std::vector<std::string> namesOpenedBy(const std::function<void()>& job, bool hidesKinds);
 
 } // namespace drossbin::test

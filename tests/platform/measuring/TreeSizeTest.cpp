@@ -1,8 +1,8 @@
 #include "platform/FileManager.h"
 #include "support/Limits.h"
+#include "support/NamesOpened.h"
 #include "support/PipesAndDevices.h"
 #include "support/ScratchFolder.h"
-#include "support/SystemCalls.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "platform/FileManager.h"
+#include "support/NamesOpened.h"
 #include "support/PipesAndDevices.h"
 #include "support/ScratchFolder.h"
-#include "support/SystemCalls.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
