@@ -1,6 +1,6 @@
 #include "app/EventLoop.h"
 #include "platform/BackgroundThread.h"
-#include "platform/basics/Stop.h"
+#include "platform/OutOfMemory.h"
 #include "platform/words/Locale.h"
 #include "views/Renderer.h"
 #include "views/texts/Typeface.h"

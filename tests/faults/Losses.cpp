@@ -12,6 +12,10 @@ bool isInAnItem(const SampleRun& run, const std::string& path) {
     return std::ranges::any_of(run.sizes, [&](const auto& item) { return isIn(item.first, path); });
 }
 
+bool isTemporary(const SampleHome& home, const std::string& path) {
+    return path.starts_with(home.logFolder() + "/.drossbin-");
+}
+
 bool belongsToLog(const SampleHome& home, const std::string& path) {
     return path == home.logPath() || isIn(path, home.logFolder());
 }
@@ -25,13 +29,13 @@ void expectNoLoss(const SampleHome& home, const Entries& before, const SampleRun
         const bool isThere = after.contains(path);
         const bool isAsBefore = isThere && after.at(path) == identity;
         const bool mayGo = isInAnItem(run, path) && (!isThere || belongsToLog(home, path));
-        // A log of the same second is replaced.
-        EXPECT_TRUE(isAsBefore || mayGo || path == home.logPath()) << path;
+        // A log of the same second is replaced, and what a killed program left of one goes.
+        const bool isOfLog = path == home.logPath() || isTemporary(home, path);
+        EXPECT_TRUE(isAsBefore || mayGo || isOfLog) << path;
     }
     for (const auto& [path, identity] : after) {
-        const bool isTemporary = path.starts_with(home.logFolder() + "/.drossbin-");
         EXPECT_TRUE(before.contains(path) || belongsToLog(home, path) ||
-                    (mayLeaveTemporary && isTemporary))
+                    (mayLeaveTemporary && isTemporary(home, path)))
             << path;
     }
 }

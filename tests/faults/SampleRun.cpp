@@ -2,7 +2,7 @@
 
 #include "cleaner/DiskCleaner.h"
 #include "platform/BackgroundThread.h"
-#include "platform/basics/Stop.h"
+#include "platform/OutOfMemory.h"
 #include "scanner/DiskScanner.h"
 #include "support/HandTurnedQueue.h"
 #include "support/ScopedLocale.h"

@@ -2,7 +2,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <new>
 
 namespace drossbin {
 
@@ -11,10 +10,6 @@ void stopProgram(std::string_view line) {
     static_cast<void>(
         std::fprintf(stderr, "drossbin: %.*s\n", static_cast<int>(line.size()), line.data()));
     std::abort();
-}
-
-void stopWhenOutOfMemory() {
-    std::set_new_handler([] { stopProgram("out of memory"); });
 }
 
 } // namespace drossbin
