@@ -124,7 +124,7 @@ ssize_t write(int file, const void* bytes, size_t size) {
 
 int fsync(int file) {
     static const auto next = systemFunction(&fsync, "fsync");
-    return SystemCallHook::isLetThrough({"fsync", ""}) ? next(file) : -1;
+    return SystemCallHook::isLetThrough({"fsync", "", nullptr, file}) ? next(file) : -1;
 }
 
 int renameat(int from, const char* oldName, int to, const char* newName) __THROW {

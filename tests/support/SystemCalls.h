@@ -27,6 +27,7 @@ class SystemCallHook {
         std::string_view function;
         std::string_view name;       ///< of the entry that it is about, or empty
         std::size_t* size = nullptr; ///< how much is to be written; may be lowered
+        int file = -1;               ///< the descriptor that is to be flushed
     };
 
     /// Returns the error number that the call is to fail with, or 0 to let it through.
