@@ -17,7 +17,7 @@ using test::Entries;
 using test::SampleHome;
 using test::SampleRun;
 
-class KilledRun : public testing::TestWithParam<int> {};
+class SignalledRun : public testing::TestWithParam<int> {};
 
 std::string logOfUndisturbedRun() {
     const SampleHome home(false);
@@ -52,7 +52,7 @@ void expectNextRunToFinish(const SampleHome& home) {
                 testing::Optional(testing::SizeIs(1)));
 }
 
-TEST_P(KilledRun, loses_nothing_at_whichever_call_the_signal_comes) {
+TEST_P(SignalledRun, loses_nothing_at_whichever_call_the_signal_comes) {
     const std::string wholeLog = logOfUndisturbedRun();
     int kills = 0;
     for (int nth = 1;; nth += test::isWhole() ? 1 : 12) {
@@ -71,7 +71,15 @@ TEST_P(KilledRun, loses_nothing_at_whichever_call_the_signal_comes) {
     std::cout << kills << " signals came\n";
 }
 
-INSTANTIATE_TEST_SUITE_P(OfEachSignal, KilledRun, testing::Values(SIGKILL, SIGTERM, SIGHUP),
+TEST(KilledRun, has_its_unfinished_log_cleared_away_by_the_next) {
+    const SampleHome home(false);
+    const SampleRun run(home, {.function = "renameat", .nth = 1, .signal = SIGKILL});
+    EXPECT_THAT(FileManager::contentsOfDirectory(home.logFolder()),
+                testing::Optional(testing::ElementsAre(testing::StartsWith(".drossbin-"))));
+    expectNextRunToFinish(home);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfEachSignal, SignalledRun, testing::Values(SIGKILL, SIGTERM, SIGHUP),
                          [](const auto& parameter) {
                              const int signal = parameter.param;
                              return signal == SIGKILL   ? "SIGKILL"
