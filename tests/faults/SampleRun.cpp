@@ -22,6 +22,7 @@
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace drossbin::test {
 
@@ -60,8 +61,8 @@ void note(const std::string& text, std::array<char, 16'384>& place) {
 /// The scan and the deletion, each on a thread of its own as in the program.
 class Program {
   public:
-    Program(const std::string& home, const Disturbance& disturbance, Report& report)
-        : m_home(home)
+    Program(std::string home, const Disturbance& disturbance, Report& report)
+        : m_home(std::move(home))
         , m_disturbance(disturbance)
         , m_report(report) {}
 
