@@ -1,0 +1,79 @@
+"""Films a scan, a selection and a deletion in a made-up home. Usage: moving_picture.py PROGRAM FILE"""
+
+import os
+import sys
+import time
+
+import slow
+import world as worlds
+from desktop import Desktop
+from driver import Program
+from home import Home
+
+FRAME = 100  # milliseconds
+GIGABYTE = 1_000_000_000
+CACHES = {"Google Chrome": 3.2, "com.example.Films": 18.4, "com.example.Music": 7.4, "com.example.Editor": 4.6,
+          "com.example.Photos": 24.6, "Spotify": 1.8}
+
+
+class Film:
+    def __init__(self, program):
+        self._program = program
+        self._frames = []
+
+    def watch(self, seconds):
+        """Takes a picture in each frame of that time."""
+        for _ in range(round(seconds * 1000 / FRAME)):
+            begun = time.monotonic()
+            self._frames.append(self._program.picture())
+            time.sleep(max(0, FRAME / 1000 - (time.monotonic() - begun)))
+
+    def press(self, role, name, seconds):
+        """Presses what is there, and watches what comes of it."""
+        self._program.press(role, name)
+        self.watch(seconds)
+
+    def save(self, path):
+        first, *more = self._frames
+        first.save(path, save_all=True, append_images=more, duration=FRAME, loop=0, quality=70, method=4)
+
+
+def fill(home):
+    home.furnish()
+    for name, size in CACHES.items():
+        home.file(f"Library/Caches/{name}/large", int(size * GIGABYTE))
+
+
+def play(film):
+    film.watch(1)
+    film.press("push button", "Start System Scan", 3.5)
+    film.press("push button", "Select All Safe", 1.5)
+    film.press("push button", "Delete Selected", 2)
+    film.press("push button", "Confirm & Delete", 4)
+    film.watch(2)
+
+
+def main():
+    program_path, path = map(os.path.abspath, sys.argv[1:3])
+    world = worlds.inside()
+    if world is None:
+        sys.exit(worlds.run_inside(os.path.abspath(__file__), [program_path, path]))
+    os.environ.update(world.environment())
+    desktop = Desktop(world)
+    os.environ.update(desktop.environment())
+    home = Home(world)
+    fill(home)
+    held = slow.on(os.path.join(home.path, "Library/Caches/com.example.Films"), 500)
+    program = Program(world, desktop, program_path, wrapper=held)
+    program.find("push button", "Start System Scan")
+    desktop.point(*(size - 1 for size in desktop.size))
+    film = Film(program)
+    play(film)
+    program.close()
+    film.save(path)
+    desktop.close()
+    print(path, flush=True)
+
+
+if __name__ == "__main__":
+    main()
