@@ -27,6 +27,7 @@ class UnderAWindowManager(Journey):
     def start(self, **how):
         program = super().start(**how)
         wait_for("the frame", lambda: self.manager.frame(program.window))
+        wait_for("the keyboard", program.focused)
         return program
 
     def has_size(self, program, expected):
