@@ -22,6 +22,7 @@ package_list=(
   "test|qml6-module-qttest||tests of the screens"
   "test|fonts-droid-fallback fonts-tlwg-loma-ttf fonts-kacst-one||names in Chinese, Thai and Arabic on the screens"
   "test|fonts-lohit-deva fonts-lohit-beng-bengali||names in Devanagari and Bengali on the screens"
+  "test|librapidcheck-dev||generate trees for measuring and removal"
   "test|btrfs-progs||try removal on a file system with subvolumes"
   "test|appstream desktop-file-utils man-db||check what software centres and readers of manuals read"
   "test|librsvg2-bin||draw the icon in its sizes"
