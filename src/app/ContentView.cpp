@@ -113,7 +113,7 @@ void ContentView::refresh() {
         m_selectedItems.restart(itemsToDelete());
     }
     m_deletionLog.refresh(m_scanResult.deletionLog);
-    m_shown = ScreenTexts::of(m_scanResult, m_survey, m_selectedCategory, m_diskSpace);
+    m_shown = ShownValues::of(m_scanResult, m_survey, m_selectedCategory, m_diskSpace);
     emit shownChanged();
 }
 

@@ -5,8 +5,8 @@
 #include "app/ItemSurvey.h"
 #include "app/LogLinesModel.h"
 #include "app/MotionPreference.h"
-#include "app/ScreenTexts.h"
 #include "app/Services.h"
+#include "app/ShownValues.h"
 
 #include <QCoroTask>
 
@@ -18,7 +18,7 @@ namespace drossbin {
 class ContentView : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(drossbin::ScreenTexts shown READ shown NOTIFY shownChanged)
+    Q_PROPERTY(drossbin::ShownValues shown READ shown NOTIFY shownChanged)
     Q_PROPERTY(Screen screen READ screen NOTIFY shownChanged)
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY shownChanged)
     Q_PROPERTY(
@@ -36,7 +36,7 @@ class ContentView : public QObject {
     explicit ContentView(QObject* parent = nullptr);
     explicit ContentView(Services services, QObject* parent = nullptr);
 
-    [[nodiscard]] const ScreenTexts& shown() const { return m_shown; }
+    [[nodiscard]] const ShownValues& shown() const { return m_shown; }
     [[nodiscard]] Screen screen() const;
     [[nodiscard]] QString searchText() const;
     void setSearchText(const QString& text);
@@ -112,7 +112,7 @@ class ContentView : public QObject {
     ItemSurvey m_survey;
     bool m_isSurveyStale = false;
     bool m_isRefreshQueued = false;
-    ScreenTexts m_shown;
+    ShownValues m_shown;
     CategoryListModel m_categories;
     ItemListModel m_items;
     ItemListModel m_selectedItems;

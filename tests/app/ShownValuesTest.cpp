@@ -1,4 +1,4 @@
-#include "app/ScreenTexts.h"
+#include "app/ShownValues.h"
 
 #include "Harness.h"
 #include "platform/words/Locale.h"
@@ -14,17 +14,17 @@ using enum DiskCategory;
 
 constexpr std::int64_t terabyte = 1'000'000'000'000;
 
-struct ScreenTextsOf : ::testing::Test {
-    [[nodiscard]] ScreenTexts take(std::optional<DiskCategory> shown = {},
+struct ShownValuesOf : ::testing::Test {
+    [[nodiscard]] ShownValues take(std::optional<DiskCategory> shown = {},
                                    std::int64_t diskSpace = terabyte) const {
-        return ScreenTexts::of(result, ItemSurvey::of(result, shown), shown, diskSpace);
+        return ShownValues::of(result, ItemSurvey::of(result, shown), shown, diskSpace);
     }
 
     ScanResult result;
 };
 
-TEST_F(ScreenTextsOf, nothing_says_zero) {
-    const ScreenTexts state = take();
+TEST_F(ShownValuesOf, nothing_says_zero) {
+    const ShownValues state = take();
     EXPECT_EQ(state.totalSummary, "0 items found · Zero KB total");
     EXPECT_EQ(state.selectionSummary, "0 items · Zero KB");
     EXPECT_EQ(state.confirmationTitle, "Delete 0 items?");
@@ -34,7 +34,7 @@ TEST_F(ScreenTextsOf, nothing_says_zero) {
     EXPECT_FALSE(state.hasSelection);
 }
 
-TEST_F(ScreenTextsOf, items_sums_all_of_them_whatever_the_search_text_hides) {
+TEST_F(ShownValuesOf, items_sums_all_of_them_whatever_the_search_text_hides) {
     std::vector<DiskItem> items(36, item("a", 100'000'000));
     items.push_back(item("b", 8'800'000'000, logFiles));
     result.items = items;
@@ -43,11 +43,11 @@ TEST_F(ScreenTextsOf, items_sums_all_of_them_whatever_the_search_text_hides) {
     EXPECT_EQ(take().totalSummary, "37 items found · 12.4 GB total");
 }
 
-TEST_F(ScreenTextsOf, a_selection_counts_and_sizes_it_over_all_categories) {
+TEST_F(ShownValuesOf, a_selection_counts_and_sizes_it_over_all_categories) {
     result.items = {selected(item("a", 3'000'000'000)), selected(item("b", 1, logFiles)),
                     selected(item("c", 200'000'000, appData)), item("d", 50)};
     result.searchText = "nothing";
-    const ScreenTexts state = take(oldDownloads);
+    const ShownValues state = take(oldDownloads);
     EXPECT_TRUE(state.hasSelection);
     EXPECT_EQ(state.deleteLabel, "Delete 3.2 GB");
     EXPECT_EQ(state.selectedSizeText, "3.2 GB");
@@ -55,23 +55,23 @@ TEST_F(ScreenTextsOf, a_selection_counts_and_sizes_it_over_all_categories) {
     EXPECT_EQ(state.confirmationTitle, "Delete 3 items?");
 }
 
-TEST_F(ScreenTextsOf, one_selected_item_has_no_singular) {
+TEST_F(ShownValuesOf, one_selected_item_has_no_singular) {
     result.items = {selected(item("a", 1))};
     EXPECT_EQ(take().confirmationTitle, "Delete 1 items?");
     EXPECT_EQ(take().selectionSummary, "1 items · 1 byte");
 }
 
-TEST_F(ScreenTextsOf, a_selected_item_of_no_bytes_is_a_selection_that_reclaims_nothing) {
+TEST_F(ShownValuesOf, a_selected_item_of_no_bytes_is_a_selection_that_reclaims_nothing) {
     result.items = {selected(item("a", 0))};
     EXPECT_TRUE(take().hasSelection);
     EXPECT_EQ(take().deleteLabel, "Delete Zero KB");
     EXPECT_FALSE(take().isReclaiming);
 }
 
-TEST_F(ScreenTextsOf, a_category_describes_it_by_what_the_search_text_lets_through) {
+TEST_F(ShownValuesOf, a_category_describes_it_by_what_the_search_text_lets_through) {
     result.items = {item("npm", 3'000'000, packageCaches),
                     selected(item("pip", 1'000'000, packageCaches)), selected(item("Mail", 7))};
-    ScreenTexts state = take(packageCaches);
+    ShownValues state = take(packageCaches);
     EXPECT_EQ(state.categoryName, "Package Caches");
     EXPECT_EQ(state.categoryIcon, "shippingbox");
     EXPECT_EQ(state.categorySubtitle, "npm, Homebrew, pip, yarn");
@@ -83,27 +83,27 @@ TEST_F(ScreenTextsOf, a_category_describes_it_by_what_the_search_text_lets_throu
     EXPECT_EQ(state.categorySelectionSummary, "0 selected · Zero KB");
 }
 
-TEST_F(ScreenTextsOf, no_category_leaves_its_texts_empty) {
+TEST_F(ShownValuesOf, no_category_leaves_its_texts_empty) {
     result.items = {item("npm", 3'000'000, packageCaches)};
     EXPECT_EQ(take().categoryName, "");
     EXPECT_EQ(take().categorySelectionSummary, "");
 }
 
-TEST_F(ScreenTextsOf, an_empty_category_says_zero) {
+TEST_F(ShownValuesOf, an_empty_category_says_zero) {
     EXPECT_EQ(take(appData).categorySizeText, "Zero KB");
     EXPECT_EQ(take(appData).categorySelectionSummary, "0 selected · Zero KB");
 }
 
-TEST_F(ScreenTextsOf, a_selection_warns_of_browser_data) {
+TEST_F(ShownValuesOf, a_selection_warns_of_browser_data) {
     result.items = {selected(item("Archive Utility", 1)), item("Spotify", 1)};
     EXPECT_TRUE(take().hasBrowserData);
     result.deselectAll();
     EXPECT_FALSE(take().hasBrowserData);
 }
 
-TEST_F(ScreenTextsOf, the_meter_tells_what_was_found_until_a_byte_is_selected) {
+TEST_F(ShownValuesOf, the_meter_tells_what_was_found_until_a_byte_is_selected) {
     result.items = {item("a", 1), item("b", 99'999'999'999)};
-    ScreenTexts state = take();
+    ShownValues state = take();
     EXPECT_EQ(state.meterCaption, "Cache Found");
     EXPECT_EQ(state.meterText, "100 GB");
     EXPECT_FALSE(state.isReclaiming);
@@ -115,7 +115,7 @@ TEST_F(ScreenTextsOf, the_meter_tells_what_was_found_until_a_byte_is_selected) {
     EXPECT_TRUE(state.isReclaiming);
 }
 
-TEST_F(ScreenTextsOf, the_meter_has_raw_shares_of_the_disk_beyond_all_of_it_too) {
+TEST_F(ShownValuesOf, the_meter_has_raw_shares_of_the_disk_beyond_all_of_it_too) {
     result.items = {item("a", 1'500), selected(item("b", 500))};
     EXPECT_EQ(take({}, 8'000).foundShare, 0.25);
     EXPECT_EQ(take({}, 8'000).selectedShare, 0.0625);
@@ -124,7 +124,7 @@ TEST_F(ScreenTextsOf, the_meter_has_raw_shares_of_the_disk_beyond_all_of_it_too)
     EXPECT_EQ(take({}, -1).selectedShare, 0);
 }
 
-TEST_F(ScreenTextsOf, a_deletion_truncates_its_percentage) {
+TEST_F(ShownValuesOf, a_deletion_truncates_its_percentage) {
     const std::vector<std::pair<double, QString>> cases{
         {0.0, "0%"}, {0.5, "50%"}, {0.999, "99%"}, {1.0, "100%"}, {1.5, "100%"}};
     for (const auto& [fraction, text] : cases) {
@@ -134,13 +134,13 @@ TEST_F(ScreenTextsOf, a_deletion_truncates_its_percentage) {
     }
 }
 
-TEST_F(ScreenTextsOf, a_run_tells_its_progress) {
+TEST_F(ShownValuesOf, a_run_tells_its_progress) {
     result.isScanning = true;
     result.scanProgress = 0.4;
     result.currentTask = "Scanning logs...";
     result.bytesFoundSoFar = 40'000'000'000;
     result.freedSpace = 3'200'000'000;
-    const ScreenTexts state = take();
+    const ShownValues state = take();
     EXPECT_TRUE(state.isScanning);
     EXPECT_EQ(state.scanProgress, 0.4);
     EXPECT_EQ(state.currentTask, "Scanning logs...");
@@ -148,7 +148,7 @@ TEST_F(ScreenTextsOf, a_run_tells_its_progress) {
     EXPECT_EQ(state.freedSpaceText, "3.2 GB");
 }
 
-TEST_F(ScreenTextsOf, many_items_has_the_separators_of_the_locale) {
+TEST_F(ShownValuesOf, many_items_has_the_separators_of_the_locale) {
     result.items = std::vector<DiskItem>(100'000, selected(item("a", 1)));
     EXPECT_EQ(take().totalSummary, "100,000 items found · 100 KB total");
     EXPECT_EQ(take().confirmationTitle, "Delete 100,000 items?");

@@ -12,7 +12,7 @@
 namespace drossbin {
 
 /// What the screens show of the session at one moment, in the words and shares that they show.
-struct ScreenTexts {
+struct ShownValues {
     Q_GADGET
     QML_ANONYMOUS
     Q_PROPERTY(bool isScanning MEMBER isScanning)
@@ -78,7 +78,7 @@ struct ScreenTexts {
 
     /// `shown` is the category whose list is open; without one its texts are empty. `survey` must
     /// be the result's own. `diskSpace` is what the meter's shares are shares of.
-    static ScreenTexts of(const ScanResult& result, const ItemSurvey& survey,
+    static ShownValues of(const ScanResult& result, const ItemSurvey& survey,
                           std::optional<DiskCategory> shown, std::int64_t diskSpace);
 };
 

@@ -1,4 +1,4 @@
-#include "app/ScreenTexts.h"
+#include "app/ShownValues.h"
 
 #include "app/Formatting.h"
 
@@ -18,7 +18,7 @@ double shareOf(std::int64_t bytes, std::int64_t diskSpace) {
     return diskSpace > 0 ? static_cast<double>(bytes) / static_cast<double>(diskSpace) : 0;
 }
 
-void describeProgress(const ScanResult& result, ScreenTexts& state) {
+void describeProgress(const ScanResult& result, ShownValues& state) {
     state.isScanning = result.isScanning;
     state.scanProgress = result.scanProgress;
     state.currentTask = toQString(result.currentTask.get());
@@ -31,7 +31,7 @@ void describeProgress(const ScanResult& result, ScreenTexts& state) {
     state.freedSpaceText = sizeText(result.freedSpace);
 }
 
-void describeSelection(const ItemSurvey& survey, ScreenTexts& state) {
+void describeSelection(const ItemSurvey& survey, ShownValues& state) {
     state.totalSummary = QStringLiteral("%1 items found · %2 total")
                              .arg(countText(survey.count), sizeText(survey.totalSize));
     state.hasSelection = survey.selectedCount > 0;
@@ -43,7 +43,7 @@ void describeSelection(const ItemSurvey& survey, ScreenTexts& state) {
     state.hasBrowserData = survey.hasBrowserData;
 }
 
-void describeCategory(DiskCategory category, const CategorySurvey& survey, ScreenTexts& state) {
+void describeCategory(DiskCategory category, const CategorySurvey& survey, ShownValues& state) {
     state.categoryName = toQString(rawValue(category));
     state.categoryIcon = toQString(icon(category));
     state.categorySubtitle = toQString(subtitle(category));
@@ -53,7 +53,7 @@ void describeCategory(DiskCategory category, const CategorySurvey& survey, Scree
             .arg(countText(survey.selectedCount), sizeText(survey.selectedSize));
 }
 
-void describeMeter(const ItemSurvey& survey, std::int64_t diskSpace, ScreenTexts& state) {
+void describeMeter(const ItemSurvey& survey, std::int64_t diskSpace, ShownValues& state) {
     state.isReclaiming = survey.selectedSize >= 1;
     state.meterCaption =
         state.isReclaiming ? QStringLiteral("Space to Reclaim") : QStringLiteral("Cache Found");
@@ -64,9 +64,9 @@ void describeMeter(const ItemSurvey& survey, std::int64_t diskSpace, ScreenTexts
 
 } // namespace
 
-ScreenTexts ScreenTexts::of(const ScanResult& result, const ItemSurvey& survey,
+ShownValues ShownValues::of(const ScanResult& result, const ItemSurvey& survey,
                             std::optional<DiskCategory> shown, std::int64_t diskSpace) {
-    ScreenTexts state;
+    ShownValues state;
     describeProgress(result, state);
     describeSelection(survey, state);
     if (shown) {
