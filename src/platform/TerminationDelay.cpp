@@ -16,9 +16,10 @@ struct DelayedSignal {
 };
 
 // A session ends with SIGTERM and SIGHUP together, and a terminal that is closed sends SIGHUP more
-// than once: only who sends SIGTERM again does not want to wait.
-constexpr std::array<DelayedSignal, 2> delayedSignals{{
+// than once: only who sends SIGTERM or presses Ctrl+C again does not want to wait.
+constexpr std::array<DelayedSignal, 3> delayedSignals{{
     {SIGTERM, SA_RESTART | static_cast<int>(SA_RESETHAND)},
+    {SIGINT, SA_RESTART | static_cast<int>(SA_RESETHAND)},
     {SIGHUP, SA_RESTART},
 }};
 
@@ -49,6 +50,8 @@ void finishBeforeExit() {
 TerminationDelay::TerminationDelay() {
     [[maybe_unused]] static const int registered = std::atexit(finishBeforeExit);
     isDelaying() = true;
+    // One that came as the last delay went has not ended the program then; it shall not now.
+    signalThatCame() = 0;
     for (std::size_t index = 0; index < delayedSignals.size(); ++index) {
         const auto [number, flags] = delayedSignals[index];
         ::sigaction(number, nullptr, &m_before[index]);

@@ -6,9 +6,10 @@
 namespace drossbin {
 
 /// While it lives, who asks the program to end has to wait. SIGTERM and SIGHUP, as the end of a
-/// session sends them, end it when this goes, as they would have at once; exit(), as the toolkit
-/// calls it when the display is gone, goes on when no background thread has work left. Only a
-/// second SIGTERM ends the program on the spot.
+/// session sends them, and SIGINT, end it when this goes, as they would have at once; exit(), as
+/// the toolkit calls it when an X11 display is gone, goes on when no background thread has work
+/// left. (For a Wayland display that is gone it calls _exit(), which waits for nothing.) Only a
+/// second SIGTERM or SIGINT ends the program on the spot.
 ///
 /// What the program was told to ignore stays ignored, such as SIGHUP by nohup. One at a time.
 class TerminationDelay {
@@ -21,7 +22,7 @@ class TerminationDelay {
     TerminationDelay& operator=(TerminationDelay&&) = delete;
 
   private:
-    std::array<struct sigaction, 2> m_before{};
+    std::array<struct sigaction, 3> m_before{};
 };
 
 } // namespace drossbin

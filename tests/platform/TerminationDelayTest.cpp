@@ -20,6 +20,7 @@ constexpr int wentOn = 7;
 int endOf(const std::function<void()>& job) {
     const pid_t child = ::fork();
     if (child == 0) {
+        ::signal(SIGHUP, SIG_DFL); // the tests may have been started by nohup
         job();
         ::_exit(wentOn);
     }
@@ -73,18 +74,22 @@ TEST_P(TerminationDelayOf, a_signal_leaves_it_ignored_where_it_was) {
     }));
 }
 
-INSTANTIATE_TEST_SUITE_P(EachSignal, TerminationDelayOf, testing::Values(SIGTERM, SIGHUP),
+INSTANTIATE_TEST_SUITE_P(EachSignal, TerminationDelayOf, testing::Values(SIGTERM, SIGINT, SIGHUP),
                          [](const auto& parameter) {
-                             return parameter.param == SIGTERM ? "SIGTERM" : "SIGHUP";
+                             return parameter.param == SIGTERM  ? "SIGTERM"
+                                    : parameter.param == SIGINT ? "SIGINT"
+                                                                : "SIGHUP";
                          });
 
 TEST(TerminationDelay, ends_at_a_second_request_to_terminate) {
-    EXPECT_TRUE(endsBy(SIGTERM, [] {
-        const TerminationDelay delay;
-        ::raise(SIGTERM);
-        ::raise(SIGTERM);
-        ::_exit(wentOn);
-    }));
+    for (const int signal : {SIGTERM, SIGINT}) {
+        EXPECT_TRUE(endsBy(signal, [signal] {
+            const TerminationDelay delay;
+            ::raise(signal);
+            ::raise(signal);
+            ::_exit(wentOn);
+        })) << signal;
+    }
 }
 
 // As when a terminal is closed, or a session ends.
