@@ -73,6 +73,7 @@ void Fault::expectFate(const std::string& path, const std::string& name) {
 // Only a call for the log itself can have kept it from being written: never one for an item.
 void Fault::expectLog() {
     if (!m_after.contains(m_home.logPath())) {
+        EXPECT_TRUE(m_run.hasHappened);
         EXPECT_EQ(m_troubles, 0);
         return;
     }

@@ -20,6 +20,7 @@
 #include <memory>
 #include <sstream>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
@@ -138,6 +139,9 @@ class Program {
                       Report& report) noexcept {
     ::dup2(::open(home.errors().c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600), STDERR_FILENO);
     ::setenv("HOME", home.path().c_str(), 1);
+    ::signal(SIGHUP, SIG_DFL); // the tests may have been started by nohup
+    const rlimit noCore{0, 0}; // it may end by an abort, many times
+    ::setrlimit(RLIMIT_CORE, &noCore);
     stopWhenOutOfMemory();
     const StandInFolder systemLogs("/var/log", home.systemLogs());
     Program(home.path(), disturbance, report).live();

@@ -8,7 +8,7 @@ import re
 from PIL import Image, ImageChops, ImageDraw
 
 from home import Home
-from screens import Walk, at_rest, save_pictures
+from screens import Walk, at_rest, in_new_world
 
 APPEARANCES = ("light", "dark")
 AGE = re.compile(r"^in \d| ago$")  # the demo data draws its dates by chance
@@ -106,4 +106,4 @@ def save_all(world, desktop, program, folder):
 
 
 if __name__ == "__main__":
-    save_pictures(save_all)
+    in_new_world(save_all)

@@ -131,9 +131,9 @@ class Walk:
         return self._start(wrapper=held)
 
 
-def save_pictures(walk):
+def in_new_world(walk):
     """Runs the calling script's `walk(world, desktop, program, folder)` in a new world without motion.
-    The script's arguments are the program and the folder for its pictures."""
+    The script's arguments are the program and the folder for what it makes."""
     program, folder = map(os.path.abspath, sys.argv[1:3])
     world = worlds.inside()
     if world is None:

@@ -4,7 +4,7 @@ and saves a picture of each. Usage: tour.py PROGRAM FOLDER"""
 import os
 
 from home import Home
-from screens import Walk, at_rest, save_pictures
+from screens import Walk, at_rest, in_new_world
 
 
 def fill(home):
@@ -43,4 +43,4 @@ def walk(world, desktop, program, folder):
 
 
 if __name__ == "__main__":
-    save_pictures(walk)
+    in_new_world(walk)

@@ -4,13 +4,10 @@ Usage: trees.py PROGRAM FOLDER saves them there."""
 
 import os
 import re
-import sys
 
-import world as worlds
-from desktop import Desktop
 from driver import GLib
 from home import Home
-from screens import Walk, at_rest
+from screens import Walk, at_rest, in_new_world
 
 STATES = ("focused", "checked", "selected")
 # What is different each time: ages in the sample data are drawn by chance.
@@ -46,25 +43,14 @@ def walk(world, desktop, program, take):
     Walk(world, desktop, program, home, take).whole(demo=True)
 
 
-def main():
-    program, folder = map(os.path.abspath, sys.argv[1:3])
-    world = worlds.inside()
-    if world is None:
-        os.makedirs(folder, exist_ok=True)
-        sys.exit(worlds.run_inside(os.path.abspath(__file__), [program, folder]))
-    os.environ.update(world.environment())
-    desktop = Desktop(world)
-    os.environ.update(desktop.environment())
-    desktop.want_no_motion()
-
+def save_all(world, desktop, program, folder):
     def save(name, running):
         at_rest(running)
         with open(os.path.join(folder, f"{name}.txt"), "w", encoding="utf-8") as file:
             file.write(tree(running))
 
     walk(world, desktop, program, save)
-    desktop.close()
 
 
 if __name__ == "__main__":
-    main()
+    in_new_world(save_all)

@@ -61,7 +61,7 @@ const std::vector<RemovalSituation> situationsOfLinks{
          s.file("beside", 1);
          link("..", s / "item/folder/item");
          link("../..", s / "item/folder/above");
-         link("/", s / "item/folder/root");
+         link(s.path(), s / "item/folder/all");
      },
      {"beside"}},
     {"links_inside_to_folders_files_and_nothing_outside",
