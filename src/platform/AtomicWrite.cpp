@@ -6,7 +6,6 @@
 #include "platform/folders/PathParts.h"
 #include "platform/folders/SystemError.h"
 
-#include <algorithm>
 #include <charconv>
 #include <csignal>
 #include <cstdio>

@@ -43,6 +43,7 @@ void U_CALLCONV release(const void* /*context*/, void* memory) {
 
 void stopWhenOutOfMemory() {
     std::set_new_handler(stop);
+    // Refused only when ICU is in use already: it then keeps the system's own.
     UErrorCode status = U_ZERO_ERROR;
     ::u_setMemoryFunctions(nullptr, allocate, reallocate, release, &status);
 }

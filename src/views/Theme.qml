@@ -26,6 +26,7 @@ QtObject {
     readonly property color divider: theme.dark ? Qt.rgba(1, 1, 1, 0.12) : Qt.rgba(0, 0, 0, 0.1)
     readonly property color outline: theme.dark ? Qt.rgba(1, 1, 1, 0.16) : Qt.rgba(0, 0, 0, 0.16)
     readonly property color tooltip: "#3a3a3e"
+    readonly property color tooltipEdge: Qt.rgba(1, 1, 1, 0.12)
     readonly property color dim: Qt.rgba(0, 0, 0, theme.dark ? 0.5 : 0.25)
 
     /// One of the shapes that a shadow is made of.

@@ -45,6 +45,6 @@ T.ToolTip {
         radius: Theme.cornerSmall
         color: Theme.tooltip
         border.width: 1
-        border.color: Qt.rgba(1, 1, 1, 0.12)
+        border.color: Theme.tooltipEdge
     }
 }
