@@ -14,6 +14,7 @@ SheetPage {
 
     signal dismissed
 
+    first: done
     implicitWidth: 440
     listName: "Deletion log"
     highest: 120
@@ -27,6 +28,8 @@ SheetPage {
     }
 
     buttons: PillButton {
+        id: done
+
         Layout.alignment: Qt.AlignHCenter
         focus: true
         label: "Done"

@@ -15,6 +15,7 @@ SheetPage {
     signal confirmed
     signal cancelled
 
+    first: cancel
     implicitWidth: 480
     listName: "Selected items"
     highest: 200
@@ -28,6 +29,8 @@ SheetPage {
 
     buttons: [
         PillButton {
+            id: cancel
+
             Layout.fillWidth: true
             Layout.preferredWidth: 1
             focus: true

@@ -33,6 +33,10 @@ Rectangle {
             [Qt.Key_End]: rows.contentHeight
         })
 
+    function showTop(): void {
+        rows.contentY = rows.originY - rows.topMargin;
+    }
+
     /// Scrolls so that this row is the first in view, as far as there are rows after it. (Not to the
     /// pixel: its letters would touch the panel's edge.)
     function showRow(row: int): void {

@@ -12,6 +12,8 @@ FocusScope {
 
     /// The sheet's height at most.
     required property real tallest
+    /// The button that has the focus each time the sheet comes, whatever had it when it last left.
+    required property Item first
     default property alias heading: head.data
     property alias listName: list.name
     property alias highest: list.highest
@@ -25,10 +27,18 @@ FocusScope {
     readonly property int margin: page.isTight ? Theme.space16 : Theme.space24
     readonly property int spacing: page.isTight ? Theme.space8 : Theme.space20
 
+    function start(): void {
+        page.first.focus = true;
+        scroll.contentY = 0;
+        list.showTop();
+    }
+
     function showRow(row: int): void {
         list.showRow(row);
     }
 
+    onVisibleChanged: if (page.visible)
+        page.start()
     implicitHeight: Math.min(page.tallest, Math.ceil(scroll.contentHeight + page.spacing + foot.implicitHeight + page.margin))
 
     Flickable {

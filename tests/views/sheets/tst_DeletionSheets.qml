@@ -246,6 +246,50 @@ Item {
                 closed("Delete 15 items?");
             }
 
+            function test_the_question_begins_with_cancel_each_time_data() {
+                return [
+                    { tag: "after one that was cancelled", isConfirmed: false },
+                    { tag: "after one that was confirmed", isConfirmed: true }
+                ];
+            }
+
+            function test_the_question_begins_with_cancel_each_time(data) {
+                const content = make();
+                content.requestDeletion();
+                open("Delete 15 items?");
+                find.button(sheet("Delete 15 items?"), "Confirm & Delete").forceActiveFocus(Qt.TabFocusReason);
+                keyClick(data.isConfirmed ? Qt.Key_Return : Qt.Key_Escape);
+                closed("Delete 15 items?");
+                if (data.isConfirmed) {
+                    content.finish();
+                    open("Cleanup Complete!");
+                    content.dismissCompletion();
+                    content.finish();
+                    content.smartSelect();
+                    tryVerify(() => content.shown.hasSelection);
+                }
+                content.requestDeletion();
+                open("Delete 15 items?");
+                compare(find.button(sheet("Delete 15 items?"), "Cancel").activeFocus, true);
+                content.cancelDeletion();
+            }
+
+            function test_the_question_shows_its_first_items_each_time() {
+                const content = make({ perCategory: 20 });
+                content.requestDeletion();
+                open("Delete 100 items?");
+                const list = () => find.control(sheet("Delete 100 items?"), Accessible.List, "Selected items");
+                const top = list().contentY;
+                list().positionViewAtEnd();
+                verify(list().contentY > top);
+                content.cancelDeletion();
+                closed("Delete 100 items?");
+                content.requestDeletion();
+                open("Delete 100 items?");
+                compare(list().contentY, top);
+                content.cancelDeletion();
+            }
+
             function test_escape_does_nothing_on_the_progress() {
                 const content = confirmed();
                 keyClick(Qt.Key_Escape);
