@@ -27,7 +27,9 @@ SymbolButton {
     function forget(): void {
         button.popover.destroy();
         button.popover = null;
-        button.forceActiveFocus(button.reasonBefore);
+        button.forceActiveFocus();
+        // Of its own: the window may have given the focus back already, and for another reason.
+        button.focusReason = button.reasonBefore;
     }
 
     symbol: "info.circle"

@@ -21,6 +21,9 @@ RowsView {
             [Qt.Key_End]: list.count
         })
 
+    /// The height before it changes.
+    property real lastHeight: 0
+
     signal toggled(int row)
 
     function start(): void {
@@ -61,6 +64,13 @@ RowsView {
     bottomMargin: Theme.space4
     spacing: Theme.space2
     highlightMoveDuration: 0
+    // A bar that comes up below must not cover the row that the keyboard is in.
+    onHeightChanged: {
+        const top = (list.currentRow?.y ?? 0) - list.contentY;
+        if (list.activeFocus && top >= 0 && top + (list.currentRow?.height ?? 0) <= list.lastHeight)
+            list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+        list.lastHeight = list.height;
+    }
     activeFocusOnTab: list.count > 0 && !(list.currentRow?.enabled ?? false)
     keyNavigationEnabled: false
     onCountChanged: list.currentIndex = Math.min(Math.max(0, list.currentIndex), list.count - 1)
