@@ -13,6 +13,45 @@ PressButton {
     required property string caption
     required property string symbol
 
+    /// The category's symbol and how many items it has.
+    component Heading: Item {
+        id: heading
+
+        required property string symbol
+        required property string countText
+
+        implicitHeight: Math.max(sign.height, capsule.height)
+
+        Symbol {
+            id: sign
+
+            anchors.left: parent.left
+            anchors.verticalCenter: parent.verticalCenter
+            name: heading.symbol
+            size: Theme.title2
+            color: Theme.blue
+        }
+
+        Rectangle {
+            id: capsule
+
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            width: count.width + 2 * Theme.space8
+            height: count.height + 2 * Theme.space2
+            radius: height / 2
+            color: Theme.tinted(Theme.blue, 0.1)
+
+            PlainLabel {
+                id: count
+
+                anchors.centerIn: parent
+                text: heading.countText
+                font.pixelSize: Theme.caption
+            }
+        }
+    }
+
     implicitWidth: 200
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     padding: Theme.space16
@@ -34,38 +73,10 @@ PressButton {
     contentItem: Column {
         spacing: Theme.space8
 
-        Item {
+        Heading {
             width: parent.width
-            implicitHeight: Math.max(sign.height, capsule.height)
-
-            Symbol {
-                id: sign
-
-                anchors.left: parent.left
-                anchors.verticalCenter: parent.verticalCenter
-                name: card.symbol
-                size: Theme.title2
-                color: Theme.blue
-            }
-
-            Rectangle {
-                id: capsule
-
-                anchors.right: parent.right
-                anchors.verticalCenter: parent.verticalCenter
-                width: count.width + 2 * Theme.space8
-                height: count.height + 2 * Theme.space2
-                radius: height / 2
-                color: Theme.tinted(Theme.blue, 0.1)
-
-                PlainLabel {
-                    id: count
-
-                    anchors.centerIn: parent
-                    text: card.countText
-                    font.pixelSize: Theme.caption
-                }
-            }
+            symbol: card.symbol
+            countText: card.countText
         }
 
         PlainLabel {
@@ -79,6 +90,7 @@ PressButton {
 
         PlainLabel {
             // In the narrowest card the longest needs some of the room beside it.
+            x: card.mirrored ? -Theme.space8 : 0
             width: parent.width + Theme.space8
             text: card.subtitle
             font.pixelSize: Theme.caption

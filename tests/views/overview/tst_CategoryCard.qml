@@ -45,6 +45,17 @@ TestCase {
         compare(finder.texts(card), ["1,204", "Package Caches", "npm, Homebrew, pip, yarn", "Zero KB"]);
     }
 
+    function test_texts_end_at_one_edge_when_mirrored() {
+        card.LayoutMirroring.enabled = true;
+        card.LayoutMirroring.childrenInherit = true;
+        const edges = ["Package Caches", "npm, Homebrew, pip, yarn", "Zero KB"].map(text => {
+            const label = finder.label(card, text);
+            return label.mapToItem(card, label.width, 0).x;
+        });
+        compare(edges, [card.width - 16, card.width - 16, card.width - 16]);
+        card.LayoutMirroring.enabled = false;
+    }
+
     function test_symbol_is_blue_in_the_title_2_size() {
         const symbol = finder.symbol(card, "shippingbox");
         compare(symbol.size, Theme.title2);
