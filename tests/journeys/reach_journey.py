@@ -58,7 +58,7 @@ class Reach(Journey):
         self.assertEqual(self.arguments(r'execve(?:at)?\([^"]*"([^"]*)"'), {self.program_path})
         self.assertEqual(self.arguments(r"socket\((\w+)"), {"AF_UNIX"})
         self.assertEqual(self.arguments(rf"({RIGHTS.replace(',', '|')})\("), set())
-        mapped = self.arguments(r"mmap\([^<]*PROT_EXEC[^<]*<([^>]*)>")
+        mapped = self.arguments(r"mmap\([^<]*PROT_EXEC[^<]*<(/[^>]*)>")
         self.assertTrue(any("/libQt6Core.so" in path for path in mapped))
         self.assertEqual(self.foreign(mapped), set())
         # Looked for, whether it was there or not.
