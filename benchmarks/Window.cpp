@@ -44,13 +44,22 @@ std::vector<DiskItem> items(std::size_t count) {
     return items;
 }
 
+/// Also where another component is made from it.
+bool isA(const QQuickItem& item, const QString& component) {
+    for (const QMetaObject* type = item.metaObject(); type != nullptr; type = type->superClass()) {
+        if (QString(type->className()).startsWith(component + u'_')) {
+            return true;
+        }
+    }
+    return false;
+}
+
 QQuickItem* find(QQuickItem* item, const QString& component, const char* property,
                  const QVariant& value) {
     if (!item->isVisible()) {
         return nullptr;
     }
-    const QString type = item->metaObject()->className();
-    if (type.startsWith(component + u'_') && item->property(property) == value) {
+    if (isA(*item, component) && item->property(property) == value) {
         return item;
     }
     for (QQuickItem* child : item->childItems()) {
