@@ -78,8 +78,8 @@ class ContentView : public QObject {
     Q_INVOKABLE void askForReducedMotion();
 
   signals:
-    /// Once a turn, whatever changed: who reads a value has a property for it, which tells those
-    /// that did not change.
+    /// Once a turn, whatever changed. A screen binds each value to a property of its own, which
+    /// stays silent where the value is the same.
     void shownChanged();
     void reducesMotionChanged();
     void closeNow();

@@ -27,9 +27,7 @@ SymbolButton {
     function forget(): void {
         button.popover.destroy();
         button.popover = null;
-        button.forceActiveFocus();
-        // Of its own: the window may have given the focus back already, and for another reason.
-        button.focusReason = button.reasonBefore;
+        button.forceActiveFocus(button.reasonBefore);
     }
 
     symbol: "info.circle"
