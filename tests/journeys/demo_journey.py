@@ -33,7 +33,7 @@ class Demo(Journey):
                 with self.desktop.held(*keys):
                     program.click("push button", "Start System Scan")
                     program.find("list item", "com.example.Editor")
-                self.assertIsNone(program.now("list item", "Adobe Premiere Pro"))
+                program.wait_until_gone("list item", "Adobe Premiere Pro")
                 program.kill()
 
     def test_an_option_click_on_the_toolbar_button_shows_the_demo_items(self):
@@ -51,7 +51,7 @@ class Demo(Journey):
         self.finds_demo_items(program)
         program.click("push button", "Scan")
         program.find("list item", "com.example.Editor")
-        self.assertIsNone(program.now("list item", "Adobe Premiere Pro"))
+        program.wait_until_gone("list item", "Adobe Premiere Pro")
 
     def test_a_second_scan_cannot_be_started_while_one_runs(self):
         program = self.start()

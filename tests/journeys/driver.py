@@ -27,9 +27,11 @@ def wait_for(what, condition, patience=PATIENCE):
     function that tells more when it comes to that."""
     deadline = time.monotonic() + patience
     while True:
-        value = condition()
-        if value:
-            return value
+        # The tree may change while it is walked: then it is looked at again.
+        with contextlib.suppress(GLib.Error):
+            value = condition()
+            if value:
+                return value
         if time.monotonic() > deadline:
             raise AssertionError(f"waited in vain for {what() if callable(what) else what}")
         time.sleep(0.02)
@@ -145,10 +147,7 @@ class Program:
         return None
 
     def _first(self, matches):
-        # The tree may change while it is walked: then the search is done again by its caller.
-        with contextlib.suppress(GLib.Error):
-            return next((c for c in self._all() if matches(c) and c.is_shown), None)
-        return None
+        return next((c for c in self._all() if matches(c) and c.is_shown), None)
 
     def _all(self):
         yield from (control for _, control in self.walk())

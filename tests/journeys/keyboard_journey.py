@@ -136,7 +136,7 @@ class Keyboard(Journey):
         self.walk_to("list item", "Program Caches")
         self.key("space")
         self.program.find("list item", "com.example.Editor")
-        self.assertIsNone(self.program.now("push button", "Clear filter"))
+        self.program.wait_until_gone("push button", "Clear filter")
 
     def test_tab_goes_from_the_toolbar_to_the_sidebar_to_the_detail(self):
         self.scan_by_keys()

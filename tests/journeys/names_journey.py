@@ -38,7 +38,7 @@ class Names(Journey):
         self.program.press("list item", "Program Caches")
         self.program.press("push button", "Select All Safe")
         self.program.press("push button", "Delete Selected")
-        self.lists("Selected items", list(NAMES.values()))
+        self.lists("Selected items", list(NAMES.values()), "Cancel")
         self.program.press("push button", "Confirm & Delete")
         self.program.find("label", "Cleanup Complete!")
         self.assertEqual(os.listdir(self.caches), [])
@@ -47,10 +47,12 @@ class Names(Journey):
             lines = file.read().split("\n")[2:-2]
         self.assertEqual([line.split(": ", 1)[1].rsplit(" (", 1)[0] for line in lines],
                          list(NAMES.values()))
-        self.lists("Deletion log", lines)
+        self.lists("Deletion log", lines, "Done")
 
-    def lists(self, name, lines):
-        """Whether the list of that name on the sheet, scrolled by keys, has these lines and no other."""
+    def lists(self, name, lines, first):
+        """Whether the list of that name, on the sheet whose first button has the focus when it is
+        up, has these lines and no other. It is scrolled by keys."""
+        wait_for(f"the focus on {first}", lambda: self.is_focused(first))
         self.program.key("Shift_L", "Tab")
         wait_for(f"the focus on {name}", lambda: self.is_focused(name))
         seen = set()

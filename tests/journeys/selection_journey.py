@@ -80,7 +80,7 @@ class Selection(Journey):
         self.show("Program Caches")
         self.program.press("check box", "com.example.Editor")
         self.program.find("push button", "Delete Selected")
-        self.assertIsNone(self.program.now("label", WARNING))
+        self.program.wait_until_gone("label", WARNING)
         self.program.press("check box", "Google Chrome")
         self.program.find("label", WARNING)
         self.program.press("push button", "Delete Selected")
