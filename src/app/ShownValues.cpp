@@ -18,62 +18,62 @@ double shareOf(std::int64_t bytes, std::int64_t diskSpace) {
     return diskSpace > 0 ? static_cast<double>(bytes) / static_cast<double>(diskSpace) : 0;
 }
 
-void describeProgress(const ScanResult& result, ShownValues& state) {
-    state.isScanning = result.isScanning;
-    state.scanProgress = result.scanProgress;
-    state.currentTask = toQString(result.currentTask.get());
-    state.bytesFoundText = sizeText(result.bytesFoundSoFar);
-    state.isDeleting = result.isDeleting;
-    state.deleteProgress = result.deleteProgress;
-    state.deletePercentText = percentText(result.deleteProgress);
-    state.showConfirmation = result.showConfirmation;
-    state.showDeletionComplete = result.showDeletionComplete;
-    state.freedSpaceText = sizeText(result.freedSpace);
+void describeProgress(const ScanResult& result, ShownValues& values) {
+    values.isScanning = result.isScanning;
+    values.scanProgress = result.scanProgress;
+    values.currentTask = toQString(result.currentTask.get());
+    values.bytesFoundText = sizeText(result.bytesFoundSoFar);
+    values.isDeleting = result.isDeleting;
+    values.deleteProgress = result.deleteProgress;
+    values.deletePercentText = percentText(result.deleteProgress);
+    values.showConfirmation = result.showConfirmation;
+    values.showDeletionComplete = result.showDeletionComplete;
+    values.freedSpaceText = sizeText(result.freedSpace);
 }
 
-void describeSelection(const ItemSurvey& survey, ShownValues& state) {
-    state.totalSummary = QStringLiteral("%1 items found · %2 total")
-                             .arg(countText(survey.count), sizeText(survey.totalSize));
-    state.hasSelection = survey.selectedCount > 0;
-    state.selectedSizeText = sizeText(survey.selectedSize);
-    state.selectionSummary = itemsAndSizeText(survey.selectedCount, survey.selectedSize);
-    state.deleteLabel = QStringLiteral("Delete ") + state.selectedSizeText;
-    state.confirmationTitle =
+void describeSelection(const ItemSurvey& survey, ShownValues& values) {
+    values.totalSummary = QStringLiteral("%1 items found · %2 total")
+                              .arg(countText(survey.count), sizeText(survey.totalSize));
+    values.hasSelection = survey.selectedCount > 0;
+    values.selectedSizeText = sizeText(survey.selectedSize);
+    values.selectionSummary = itemsAndSizeText(survey.selectedCount, survey.selectedSize);
+    values.deleteLabel = QStringLiteral("Delete ") + values.selectedSizeText;
+    values.confirmationTitle =
         QStringLiteral("Delete %1 items?").arg(countText(survey.selectedCount));
-    state.hasBrowserData = survey.hasBrowserData;
+    values.hasBrowserData = survey.hasBrowserData;
 }
 
-void describeCategory(DiskCategory category, const CategorySurvey& survey, ShownValues& state) {
-    state.categoryName = toQString(rawValue(category));
-    state.categoryIcon = toQString(icon(category));
-    state.categorySubtitle = toQString(subtitle(category));
-    state.categorySizeText = sizeText(survey.size);
-    state.categorySelectionSummary =
+void describeCategory(DiskCategory category, const CategorySurvey& survey, ShownValues& values) {
+    values.categoryName = toQString(rawValue(category));
+    values.categoryIcon = toQString(icon(category));
+    values.categorySubtitle = toQString(subtitle(category));
+    values.categorySizeText = sizeText(survey.size);
+    values.categorySelectionSummary =
         QStringLiteral("%1 selected · %2")
             .arg(countText(survey.selectedCount), sizeText(survey.selectedSize));
 }
 
-void describeMeter(const ItemSurvey& survey, std::int64_t diskSpace, ShownValues& state) {
-    state.isReclaiming = survey.selectedSize >= 1;
-    state.meterCaption =
-        state.isReclaiming ? QStringLiteral("Space to Reclaim") : QStringLiteral("Cache Found");
-    state.meterText = sizeText(state.isReclaiming ? survey.selectedSize : survey.totalSize);
-    state.foundShare = shareOf(survey.totalSize, diskSpace);
-    state.selectedShare = shareOf(survey.selectedSize, diskSpace);
+void describeMeter(const ItemSurvey& survey, std::int64_t diskSpace, ShownValues& values) {
+    values.isReclaiming = survey.selectedSize >= 1;
+    values.meterCaption =
+        values.isReclaiming ? QStringLiteral("Space to Reclaim") : QStringLiteral("Cache Found");
+    values.meterText = sizeText(values.isReclaiming ? survey.selectedSize : survey.totalSize);
+    values.foundShare = shareOf(survey.totalSize, diskSpace);
+    values.selectedShare = shareOf(survey.selectedSize, diskSpace);
 }
 
 } // namespace
 
 ShownValues ShownValues::of(const ScanResult& result, const ItemSurvey& survey,
                             std::optional<DiskCategory> shown, std::int64_t diskSpace) {
-    ShownValues state;
-    describeProgress(result, state);
-    describeSelection(survey, state);
+    ShownValues values;
+    describeProgress(result, values);
+    describeSelection(survey, values);
     if (shown) {
-        describeCategory(*shown, survey.of(*shown), state);
+        describeCategory(*shown, survey.of(*shown), values);
     }
-    describeMeter(survey, diskSpace, state);
-    return state;
+    describeMeter(survey, diskSpace, values);
+    return values;
 }
 
 } // namespace drossbin

@@ -24,14 +24,14 @@ struct ShownValuesOf : ::testing::Test {
 };
 
 TEST_F(ShownValuesOf, nothing_says_zero) {
-    const ShownValues state = take();
-    EXPECT_EQ(state.totalSummary, "0 items found · Zero KB total");
-    EXPECT_EQ(state.selectionSummary, "0 items · Zero KB");
-    EXPECT_EQ(state.confirmationTitle, "Delete 0 items?");
-    EXPECT_EQ(state.bytesFoundText, "Zero KB");
-    EXPECT_EQ(state.freedSpaceText, "Zero KB");
-    EXPECT_EQ(state.deletePercentText, "0%");
-    EXPECT_FALSE(state.hasSelection);
+    const ShownValues values = take();
+    EXPECT_EQ(values.totalSummary, "0 items found · Zero KB total");
+    EXPECT_EQ(values.selectionSummary, "0 items · Zero KB");
+    EXPECT_EQ(values.confirmationTitle, "Delete 0 items?");
+    EXPECT_EQ(values.bytesFoundText, "Zero KB");
+    EXPECT_EQ(values.freedSpaceText, "Zero KB");
+    EXPECT_EQ(values.deletePercentText, "0%");
+    EXPECT_FALSE(values.hasSelection);
 }
 
 TEST_F(ShownValuesOf, items_sums_all_of_them_whatever_the_search_text_hides) {
@@ -47,12 +47,12 @@ TEST_F(ShownValuesOf, a_selection_counts_and_sizes_it_over_all_categories) {
     result.items = {selected(item("a", 3'000'000'000)), selected(item("b", 1, logFiles)),
                     selected(item("c", 200'000'000, appData)), item("d", 50)};
     result.searchText = "nothing";
-    const ShownValues state = take(oldDownloads);
-    EXPECT_TRUE(state.hasSelection);
-    EXPECT_EQ(state.deleteLabel, "Delete 3.2 GB");
-    EXPECT_EQ(state.selectedSizeText, "3.2 GB");
-    EXPECT_EQ(state.selectionSummary, "3 items · 3.2 GB");
-    EXPECT_EQ(state.confirmationTitle, "Delete 3 items?");
+    const ShownValues values = take(oldDownloads);
+    EXPECT_TRUE(values.hasSelection);
+    EXPECT_EQ(values.deleteLabel, "Delete 3.2 GB");
+    EXPECT_EQ(values.selectedSizeText, "3.2 GB");
+    EXPECT_EQ(values.selectionSummary, "3 items · 3.2 GB");
+    EXPECT_EQ(values.confirmationTitle, "Delete 3 items?");
 }
 
 TEST_F(ShownValuesOf, one_selected_item_has_no_singular) {
@@ -71,16 +71,16 @@ TEST_F(ShownValuesOf, a_selected_item_of_no_bytes_is_a_selection_that_reclaims_n
 TEST_F(ShownValuesOf, a_category_describes_it_by_what_the_search_text_lets_through) {
     result.items = {item("npm", 3'000'000, packageCaches),
                     selected(item("pip", 1'000'000, packageCaches)), selected(item("Mail", 7))};
-    ShownValues state = take(packageCaches);
-    EXPECT_EQ(state.categoryName, "Package Caches");
-    EXPECT_EQ(state.categoryIcon, "shippingbox");
-    EXPECT_EQ(state.categorySubtitle, "npm, Homebrew, pip, yarn");
-    EXPECT_EQ(state.categorySizeText, "4 MB");
-    EXPECT_EQ(state.categorySelectionSummary, "1 selected · 1 MB");
+    ShownValues values = take(packageCaches);
+    EXPECT_EQ(values.categoryName, "Package Caches");
+    EXPECT_EQ(values.categoryIcon, "shippingbox");
+    EXPECT_EQ(values.categorySubtitle, "npm, Homebrew, pip, yarn");
+    EXPECT_EQ(values.categorySizeText, "4 MB");
+    EXPECT_EQ(values.categorySelectionSummary, "1 selected · 1 MB");
     result.searchText = "npm";
-    state = take(packageCaches);
-    EXPECT_EQ(state.categorySizeText, "3 MB");
-    EXPECT_EQ(state.categorySelectionSummary, "0 selected · Zero KB");
+    values = take(packageCaches);
+    EXPECT_EQ(values.categorySizeText, "3 MB");
+    EXPECT_EQ(values.categorySelectionSummary, "0 selected · Zero KB");
 }
 
 TEST_F(ShownValuesOf, no_category_leaves_its_texts_empty) {
@@ -103,16 +103,16 @@ TEST_F(ShownValuesOf, a_selection_warns_of_browser_data) {
 
 TEST_F(ShownValuesOf, the_meter_tells_what_was_found_until_a_byte_is_selected) {
     result.items = {item("a", 1), item("b", 99'999'999'999)};
-    ShownValues state = take();
-    EXPECT_EQ(state.meterCaption, "Cache Found");
-    EXPECT_EQ(state.meterText, "100 GB");
-    EXPECT_FALSE(state.isReclaiming);
-    EXPECT_EQ(state.selectedShare, 0);
+    ShownValues values = take();
+    EXPECT_EQ(values.meterCaption, "Cache Found");
+    EXPECT_EQ(values.meterText, "100 GB");
+    EXPECT_FALSE(values.isReclaiming);
+    EXPECT_EQ(values.selectedShare, 0);
     result.toggleSelectionFor(result.items.get().front());
-    state = take();
-    EXPECT_EQ(state.meterCaption, "Space to Reclaim");
-    EXPECT_EQ(state.meterText, "1 byte");
-    EXPECT_TRUE(state.isReclaiming);
+    values = take();
+    EXPECT_EQ(values.meterCaption, "Space to Reclaim");
+    EXPECT_EQ(values.meterText, "1 byte");
+    EXPECT_TRUE(values.isReclaiming);
 }
 
 TEST_F(ShownValuesOf, the_meter_has_raw_shares_of_the_disk_beyond_all_of_it_too) {
@@ -140,12 +140,12 @@ TEST_F(ShownValuesOf, a_run_tells_its_progress) {
     result.currentTask = "Scanning logs...";
     result.bytesFoundSoFar = 40'000'000'000;
     result.freedSpace = 3'200'000'000;
-    const ShownValues state = take();
-    EXPECT_TRUE(state.isScanning);
-    EXPECT_EQ(state.scanProgress, 0.4);
-    EXPECT_EQ(state.currentTask, "Scanning logs...");
-    EXPECT_EQ(state.bytesFoundText, "40 GB");
-    EXPECT_EQ(state.freedSpaceText, "3.2 GB");
+    const ShownValues values = take();
+    EXPECT_TRUE(values.isScanning);
+    EXPECT_EQ(values.scanProgress, 0.4);
+    EXPECT_EQ(values.currentTask, "Scanning logs...");
+    EXPECT_EQ(values.bytesFoundText, "40 GB");
+    EXPECT_EQ(values.freedSpaceText, "3.2 GB");
 }
 
 TEST_F(ShownValuesOf, many_items_has_the_separators_of_the_locale) {
