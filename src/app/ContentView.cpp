@@ -1,6 +1,7 @@
 #include "app/ContentView.h"
 
 #include "app/Formatting.h"
+#include "platform/BackgroundThread.h"
 
 #include <utility>
 
@@ -87,8 +88,11 @@ void ContentView::clearSelection() {
     m_scanResult.deselectAll();
 }
 
-void ContentView::askForReducedMotion() {
+void ContentView::prepare() {
     m_motion.ask();
+    // For the first text of a locale ICU reads its data. The screens of a scan would wait for that,
+    // on a cold disk for longer than for all else.
+    BackgroundThread::run([] { itemsAndSizeText(1, 1); });
 }
 
 void ContentView::noteChange(ScanResult::Field field) {

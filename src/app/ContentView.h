@@ -73,9 +73,9 @@ class ContentView : public QObject {
     /// Whether Option (Alt) is held at this moment.
     [[nodiscard]] Q_INVOKABLE static bool optionHeld();
 
-    /// Asks the desktop whether it wants less motion. For the moment after the first frame: the
-    /// start does not wait for a bus.
-    Q_INVOKABLE void askForReducedMotion();
+    /// Asks the desktop for its settings and reads the locale's data, both in the background. For
+    /// the moment after the first frame: the start waits for neither.
+    Q_INVOKABLE void prepare();
 
   signals:
     /// Once a turn, whatever changed. A screen binds each value to a property of its own, which

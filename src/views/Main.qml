@@ -39,7 +39,7 @@ T.ApplicationWindow {
         id: afterFirstFrame
 
         interval: 0
-        onTriggered: content.askForReducedMotion()
+        onTriggered: content.prepare()
     }
 
     Binding {
