@@ -12,6 +12,7 @@
 #include <fcntl.h>
 #include <random>
 #include <string_view>
+#include <sys/file.h>
 #include <unistd.h>
 
 namespace drossbin {
@@ -74,15 +75,22 @@ std::error_code flush(int descriptor) {
     return isFlushed ? std::error_code() : lastSystemError();
 }
 
-std::error_code writeNewFile(int folder, const std::string& name, std::string_view text) {
+/// Locked as long as it is open, so that others can tell that somebody writes it who have no number
+/// for that process: in another container, or on another host with the same home folder.
+FileDescriptor newLockedFile(int folder, const std::string& name) {
     constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
-    const FileDescriptor file(
-        uninterrupted([&] { return ::openat(folder, name.c_str(), flags, 0644); }));
-    if (!file.isOpen()) {
-        return lastSystemError();
+    FileDescriptor file(uninterrupted([&] { return ::openat(folder, name.c_str(), flags, 0644); }));
+    if (file.isOpen()) {
+        ::flock(file.get(), LOCK_EX | LOCK_NB); // where there are no locks the number has to do
     }
-    const std::error_code error = writeAll(file.get(), text);
-    return error ? error : flush(file.get());
+    return file;
+}
+
+bool isLocked(int folder, const char* name) {
+    // For writing: network file systems lock no other.
+    constexpr int flags = O_WRONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC;
+    const FileDescriptor file(uninterrupted([&] { return ::openat(folder, name, flags); }));
+    return file.isOpen() && ::flock(file.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
 std::error_code replace(int folder, const std::string& newName, const std::string& name) {
@@ -105,7 +113,14 @@ std::error_code writeAtomically(const std::string& text, const std::string& path
         return lastSystemError();
     }
     const std::string temporary = temporaryName();
-    std::error_code error = writeNewFile(folder.get(), temporary, text);
+    const FileDescriptor file = newLockedFile(folder.get(), temporary);
+    if (!file.isOpen()) {
+        return lastSystemError();
+    }
+    std::error_code error = writeAll(file.get(), text);
+    if (!error) {
+        error = flush(file.get());
+    }
     if (!error) {
         error = replace(folder.get(), temporary, target.name);
     }
@@ -124,7 +139,7 @@ void removeTemporaryFiles(const std::string& folder) {
     DirectoryBlock entries;
     while (reader.read(entries)) {
         while (const auto entry = entries.next()) {
-            if (isTemporaryOfAnEndedProcess(entry->name)) {
+            if (isTemporaryOfAnEndedProcess(entry->name) && !isLocked(opened.get(), entry->name)) {
                 ::unlinkat(opened.get(), entry->name, 0); // no folder, whatever its name
             }
         }
