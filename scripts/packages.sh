@@ -19,7 +19,7 @@ package_list=(
   "screen|strace||hold the program in the middle of its work, and see every file that it opens"
   "screen|openbox weston||try the window under a window manager, and on a Wayland desktop"
   "test|libgtest-dev libgmock-dev|googletest|tests of the logic"
-  "test|qml6-module-qttest||tests of the screens"
+  "test|qml6-module-qttest qml6-module-qt-labs-platform||tests of the screens, and of the menus of macOS"
   "test|fonts-droid-fallback fonts-tlwg-loma-ttf fonts-kacst-one||names in Chinese, Thai and Arabic on the screens"
   "test|fonts-lohit-deva fonts-lohit-beng-bengali||names in Devanagari and Bengali on the screens"
   "test|librapidcheck-dev||generate trees for measuring and removal"

@@ -54,6 +54,11 @@ T.ApplicationWindow {
         onActivated: window.close()
     }
 
+    Loader {
+        active: Qt.platform.os === "osx"
+        source: "MacMenuBar.qml"
+    }
+
     Item {
         anchors.fill: parent
         LayoutMirroring.enabled: Theme.mirrored
