@@ -20,7 +20,7 @@ endfunction()
 function(qml_packages result)
   qt_folder(tools QT_INSTALL_LIBEXECS)
   qt_folder(modules QT_INSTALL_QML)
-  execute_process(COMMAND "${tools}/qmlimportscanner" -rootPath "${CPACK_DROSSBIN_QML}" -importPath "${modules}"
+  execute_process(COMMAND "${tools}/qmlimportscanner" -qmlFiles ${CPACK_DROSSBIN_QML} -importPath "${modules}"
                   OUTPUT_VARIABLE imports COMMAND_ERROR_IS_FATAL ANY)
   string(JSON count LENGTH "${imports}")
   math(EXPR last "${count} - 1")
