@@ -45,8 +45,10 @@ T.ItemDelegate {
         information.popover?.close();
     }
 
-    // With the space between rows on whole pixels: each row then looks like the one above it.
-    implicitHeight: Theme.onWholePixels(names.implicitHeight + topPadding + bottomPadding + Theme.space2) - Theme.space2
+    // With the space between rows on whole pixels: each row then looks like the one above it. By the
+    // lines themselves: their column has a height only when a frame is laid out, and until then the
+    // list would take a row for a thin one and make three times as many.
+    implicitHeight: Theme.onWholePixels(title.implicitHeight + names.spacing + place.implicitHeight + topPadding + bottomPadding + Theme.space2) - Theme.space2
     verticalPadding: Theme.space4
     horizontalPadding: Theme.space8
     spacing: Theme.space12
@@ -110,6 +112,8 @@ T.ItemDelegate {
             spacing: Theme.space3
 
             PlainLabel {
+                id: title
+
                 width: parent.width
                 text: row.name
                 elide: Text.ElideMiddle
@@ -117,6 +121,8 @@ T.ItemDelegate {
             }
 
             PlainLabel {
+                id: place
+
                 width: parent.width
                 text: row.path
                 color: Theme.tertiary

@@ -151,6 +151,14 @@ TestCase {
         verify(Qt.colorEqual(path.color, Theme.tertiary));
     }
 
+    // The list fills itself by it, before anything is laid out for a frame.
+    function test_is_as_high_when_it_is_made_as_when_it_is_shown() {
+        const row = createTemporaryObject(rowComponent, test);
+        const height = row.implicitHeight;
+        waitForRendering(row, 200);
+        compare(height, row.implicitHeight);
+    }
+
     function test_rows_2_apart_stand_on_whole_pixels_at_every_scale() {
         // Other paddings stand for other fonts, whose lines are higher.
         for (const padding of [4, 4.5, 5, 6]) {
