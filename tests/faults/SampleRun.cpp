@@ -4,6 +4,7 @@
 #include "platform/BackgroundThread.h"
 #include "platform/OutOfMemory.h"
 #include "scanner/DiskScanner.h"
+#include "support/ChildProcess.h"
 #include "support/HandTurnedQueue.h"
 #include "support/ScopedLocale.h"
 #include "support/SystemCalls.h"
@@ -21,7 +22,6 @@
 #include <sstream>
 #include <sys/mman.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
 
@@ -134,9 +134,7 @@ class Program {
     HandTurnedQueue m_mainThread;
 };
 
-// Nothing that is thrown may reach the tests, of which this process is a copy.
-[[noreturn]] void run(const SampleHome& home, const Disturbance& disturbance,
-                      Report& report) noexcept {
+void run(const SampleHome& home, const Disturbance& disturbance, Report& report) {
     ::dup2(::open(home.errors().c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600), STDERR_FILENO);
     ::setenv("HOME", home.path().c_str(), 1);
     ::signal(SIGHUP, SIG_DFL); // the tests may have been started by nohup
@@ -145,7 +143,6 @@ class Program {
     stopWhenOutOfMemory();
     const StandInFolder systemLogs("/var/log", home.systemLogs());
     Program(home.path(), disturbance, report).live();
-    ::_exit(EXIT_SUCCESS);
 }
 
 } // namespace
@@ -157,11 +154,10 @@ bool isWhole() {
 SampleRun::SampleRun(const SampleHome& home, const Disturbance& disturbance) {
     const ScopedLocale english({"en_US"});
     const auto report = sharedReport();
-    const pid_t child = ::fork();
-    if (child == 0) {
+    status = endOfChild([&] {
         run(home, disturbance, *report);
-    }
-    ::waitpid(child, &status, 0);
+        return EXIT_SUCCESS;
+    });
     hasHappened = report->hasHappened;
     hasFinished = report->hasFinished;
     descriptorsLeft = report->descriptorsLeft;

@@ -1,4 +1,5 @@
 #include "platform/FileManager.h"
+#include "support/ChildProcess.h"
 #include "support/ScratchFolder.h"
 #include "support/SystemCalls.h"
 #include "support/TextFile.h"
@@ -10,8 +11,6 @@
 #include <cerrno>
 #include <csignal>
 #include <string>
-#include <sys/wait.h>
-#include <unistd.h>
 #include <vector>
 
 namespace drossbin {
@@ -124,17 +123,13 @@ TEST(AtomicWrite, keeps_the_new_text_when_only_the_flush_of_its_folder_fails) {
 /// Writes in a process that is killed right before its `nth` call to the file system; returns
 /// whether it was.
 bool isKilledAtCall(int nth, const std::string& path) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        int calls = 0;
-        const SystemCallHook hook(halvingFirstWrite(
-            [&](const SystemCallHook::Call&) { return ++calls == nth ? ::raise(SIGKILL) : 0; }));
-        FileManager::writeAtomically(text, path);
-        ::_exit(0);
-    }
-    int status = 0;
-    EXPECT_EQ(::waitpid(child, &status, 0), child);
-    return WIFSIGNALED(status);
+    return test::endOfChild([&] {
+               int calls = 0;
+               const SystemCallHook hook(halvingFirstWrite([&](const SystemCallHook::Call&) {
+                   return ++calls == nth ? ::raise(SIGKILL) : 0;
+               }));
+               return FileManager::writeAtomically(text, path).value();
+           }) == SIGKILL;
 }
 
 std::vector<std::string> logsOfKilledPrograms(const std::string& oldText) {

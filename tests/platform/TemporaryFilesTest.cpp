@@ -1,5 +1,6 @@
 #include "platform/FileManager.h"
 #include "platform/folders/FileDescriptor.h"
+#include "support/ChildProcess.h"
 #include "support/ScratchFolder.h"
 #include "support/SystemCalls.h"
 #include "support/TextFile.h"
@@ -13,8 +14,8 @@
 #include <limits>
 #include <string>
 #include <sys/file.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <sys/types.h>
+#include <utility>
 #include <vector>
 
 namespace drossbin {
@@ -29,15 +30,13 @@ using testing::Optional;
 
 /// Writes in a process that is killed when the whole text has only its temporary name.
 void killBeforeRename(const std::string& path) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        const SystemCallHook hook([](const SystemCallHook::Call& call) {
-            return call.function == "renameat" ? ::raise(SIGKILL) : 0;
-        });
-        FileManager::writeAtomically("text", path);
-        ::_exit(0);
-    }
-    ::waitpid(child, nullptr, 0);
+    ASSERT_EQ(test::endOfChild([&] {
+                  const SystemCallHook hook([](const SystemCallHook::Call& call) {
+                      return call.function == "renameat" ? ::raise(SIGKILL) : 0;
+                  });
+                  return FileManager::writeAtomically("text", path).value();
+              }),
+              SIGKILL);
 }
 
 TEST(RemoveTemporaryFiles, clears_away_what_a_killed_program_left) {

@@ -1,10 +1,11 @@
 #include "support/Limits.h"
 
+#include "support/ChildProcess.h"
+
 #include <cerrno>
 #include <fcntl.h>
 #include <grp.h>
 #include <pthread.h>
-#include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -61,15 +62,10 @@ void runOnSmallStack(const std::function<void()>& job) {
 }
 
 bool holdsForOrdinaryUser(const std::function<bool()>& job) {
-    const pid_t child = ::fork();
-    check(child >= 0, "fork");
-    if (child == 0) {
-        becomeOrdinaryUser();
-        ::_exit(job() ? 0 : 1);
-    }
-    int status = 0;
-    check(::waitpid(child, &status, 0) == child, "waitpid");
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    return endOfChild([&] {
+               becomeOrdinaryUser();
+               return job() ? 0 : 1;
+           }) == 0;
 }
 
 } // namespace drossbin::test

@@ -1,6 +1,6 @@
 #include "support/MountNamespace.h"
 
-#include <gtest/gtest.h>
+#include "support/ChildProcess.h"
 
 #include <cstdlib>
 #include <fstream>
@@ -48,17 +48,13 @@ bool makeMountsPrivate() {
 } // namespace
 
 std::optional<bool> holdsInMountNamespace(const std::function<bool()>& job) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        const bool isPrivate = makeMountsPrivate();
-        ::_exit(!isPrivate ? unavailable : job() ? 0 : 1);
-    }
-    int status = 0;
-    EXPECT_EQ(::waitpid(child, &status, 0), child);
+    const int status = endOfChild([&] {
+        return !makeMountsPrivate() ? unavailable : job() ? 0 : 1;
+    });
     if (WIFEXITED(status) && WEXITSTATUS(status) == unavailable) {
         return std::nullopt;
     }
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    return status == 0;
 }
 
 #ifdef __linux__
