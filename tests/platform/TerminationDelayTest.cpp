@@ -1,14 +1,18 @@
 #include "platform/TerminationDelay.h"
 
 #include "platform/BackgroundThread.h"
+#include "support/ChildProcess.h"
 
 #include <gtest/gtest.h>
 
 #include <csignal>
 #include <cstdlib>
+#include <fstream>
 #include <functional>
 #include <latch>
+#include <string>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace drossbin {
@@ -18,15 +22,13 @@ constexpr int wentOn = 7;
 
 /// How a process ends that does `job` and then leaves of its own accord with `wentOn`.
 int endOf(const std::function<void()>& job) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::signal(SIGHUP, SIG_DFL); // the tests may have been started by nohup
+    return test::endOfChild([&] {
+        for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+            ::signal(signal, SIG_DFL); // nohup, and a shell in the background, have them ignored
+        }
         job();
-        ::_exit(wentOn);
-    }
-    int status = 0;
-    EXPECT_EQ(::waitpid(child, &status, 0), child);
-    return status;
+        return wentOn;
+    });
 }
 
 bool goesOn(const std::function<void()>& job) {
@@ -103,15 +105,31 @@ TEST(TerminationDelay, lasts_through_hang_ups_whatever_comes_with_them) {
     }));
 }
 
+/// Whether the process's first thread waits for something; taken for granted where nobody tells.
+bool isFirstThreadWaiting() {
+    const std::string first = std::to_string(::getpid());
+    std::ifstream status("/proc/self/task/" + first + "/stat");
+    std::string number, name;
+    char state = 'S';
+    status >> number >> name >> state;
+    return state == 'S';
+}
+
+// The work ends only once the exit waits for it: it could else be quicker than an exit that does
+// not.
 TEST(TerminationDelay, holds_up_an_exit_until_the_background_has_done_its_work) {
     EXPECT_TRUE(goesOn([] {
         static std::latch delayed(1);
         static std::latch leaving(1);
+        std::atexit([] { ::_exit(EXIT_FAILURE); }); // done last, when the exit has gone on
         BackgroundThread::run([] {
             const TerminationDelay delay;
             delayed.count_down();
             leaving.wait();
-            ::_exit(wentOn); // reached only when the exit waits
+            while (!isFirstThreadWaiting()) {
+                std::this_thread::yield();
+            }
+            ::_exit(wentOn);
         });
         delayed.wait();
         std::atexit([] { leaving.count_down(); }); // done before what was registered earlier
