@@ -3,6 +3,7 @@
 #include "cleaner/DiskCleaner.h"
 #include "platform/FileManager.h"
 #include "support/HandTurnedQueue.h"
+#include "support/March.h"
 #include "support/ScopedLocale.h"
 #include "support/ScratchFolder.h"
 #include "support/TextFile.h"
@@ -14,8 +15,6 @@
 #include <vector>
 
 namespace drossbin::test {
-
-inline constexpr Date march{std::chrono::seconds{1'772'373'909}}; ///< 2026-03-01 14:05:09 UTC
 
 inline DiskItem makeItem(const std::string& path, const std::string& name, std::int64_t size) {
     DiskItem item;

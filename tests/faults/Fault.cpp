@@ -1,6 +1,7 @@
 #include "faults/Fault.h"
 
 #include "cleaner/DeletionLog.h"
+#include "support/March.h"
 #include "support/ScopedLocale.h"
 #include "support/TextFile.h"
 
@@ -77,7 +78,6 @@ void Fault::expectLog() {
         EXPECT_EQ(m_troubles, 0);
         return;
     }
-    constexpr Date march{std::chrono::seconds{1'772'373'909}};
     const ScopedLocale english({"en_US"});
     EXPECT_EQ(contentOf(m_home.logPath()), deletionlog::text(march, m_run.log, m_run.bytesFreed));
 }

@@ -6,6 +6,7 @@
 #include "scanner/DiskScanner.h"
 #include "support/ChildProcess.h"
 #include "support/HandTurnedQueue.h"
+#include "support/March.h"
 #include "support/ScopedLocale.h"
 #include "support/SystemCalls.h"
 
@@ -86,8 +87,6 @@ class Program {
     }
 
   private:
-    static constexpr Date march{std::chrono::seconds{1'772'373'909}}; // 2026-03-01 14:05:09 UTC
-
     void inBackground(bool isDisturbed, const std::function<void()>& job) {
         const SystemCallHook hook(
             [&](const SystemCallHook::Call& call) { return isDisturbed ? disturb(call) : 0; },
