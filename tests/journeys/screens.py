@@ -80,7 +80,7 @@ class Walk:
         program.key("Escape")
         program.find("push button", "Smart Select")
         self._take("overview", program)
-        program.press("push button", "Smart Select")
+        program.click("push button", "Smart Select")
         program.find_starting("push button", "Delete ").act()
         program.find("push button", "Confirm & Delete")
         self._take("confirmation", program)

@@ -18,6 +18,7 @@ class HeldContentView : public ContentView {
     Q_OBJECT
     Q_PROPERTY(int perCategory READ perCategory WRITE setPerCategory)
     Q_PROPERTY(QString firstName READ firstName WRITE setFirstName)
+    Q_PROPERTY(QString note READ note WRITE setNote)
     Q_PROPERTY(QStringList log READ log WRITE setLog)
 
   public:
@@ -42,6 +43,10 @@ class HeldContentView : public ContentView {
     [[nodiscard]] QString firstName() const { return m_runs->firstName; }
     void setFirstName(const QString& name) { m_runs->firstName = name; }
 
+    /// What all items have as a note, if anything.
+    [[nodiscard]] QString note() const { return m_runs->note; }
+    void setNote(const QString& note) { m_runs->note = note; }
+
     /// What the next deletion says of its items.
     [[nodiscard]] QStringList log() const { return m_runs->log; }
     void setLog(const QStringList& lines) { m_runs->log = lines; }
@@ -53,6 +58,7 @@ class HeldContentView : public ContentView {
         QSemaphore gate;
         int perCategory = 3;
         QString firstName;
+        QString note;
         QStringList log;
     };
 
@@ -91,6 +97,9 @@ class HeldContentView : public ContentView {
                 item.path = "/home/ada/" + item.name;
                 item.size = 1'000'000;
                 item.category = category;
+                if (!runs.note.isEmpty()) {
+                    item.safetyNote = runs.note.toStdString();
+                }
                 items.push_back(item);
             }
         }

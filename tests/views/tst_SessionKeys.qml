@@ -19,6 +19,7 @@ Item {
             id: test
 
             property Session made
+            property bool byPointer: false
             readonly property ContentView state: test.made?.content ?? null
 
             name: "SessionKeys"
@@ -34,7 +35,9 @@ Item {
             Component {
                 id: content
 
-                HeldContentView {}
+                HeldContentView {
+                    note: "It is made again."
+                }
             }
 
             Component {
@@ -48,6 +51,7 @@ Item {
             function init() {
                 failOnWarning(/.?/);
                 Theme.animated = false;
+                test.byPointer = false;
                 test.made = session.createObject(test, { content: createTemporaryObject(content, test) });
                 test.made.forceActiveFocus();
                 state.startScan(true);
@@ -77,16 +81,28 @@ Item {
                 return [screen, state.selectedCategory, state.shown.selectionSummary, state.searchText, sheet].join(", ");
             }
 
-            /// Has the control of that name pressed by the keyboard.
+            /// Has the control of that name pressed, by the keyboard or by the pointer.
             function press(name: string) {
                 tryVerify(() => find.button(host.contentItem.parent, name)?.enabled ?? false, 5000, name);
-                find.button(host.contentItem.parent, name).forceActiveFocus(Qt.TabFocusReason);
-                keyClick(Qt.Key_Return);
+                const button = find.button(host.contentItem.parent, name);
+                if (test.byPointer) {
+                    waitForRendering(host.contentItem, 100);
+                    mouseClick(button);
+                } else {
+                    button.forceActiveFocus(Qt.TabFocusReason);
+                    keyClick(Qt.Key_Return);
+                }
             }
 
             function goToOverview() {
                 keyClick(Qt.Key_Escape);
                 reaches("Smart Select");
+            }
+
+            /// Has the first row's note opened, by the keyboard or by the pointer.
+            function openNote() {
+                press("Information");
+                tryVerify(() => find.control(host.contentItem.parent, Accessible.Dialog, "Safe to Clear") !== null);
             }
 
             function goToReport() {
@@ -352,20 +368,55 @@ Item {
                 reaches("Scanning your Mac...");
             }
 
-            function test_the_ring_follows_the_hand_data() {
-                return [
-                    { tag: "keyboard", clear: () => press("Clear Selection"), ring: true },
-                    { tag: "pointer", clear: () => mouseClick(find.button(test.made, "Clear Selection")), ring: false }
-                ];
+            /// Whether it is seen that the keyboard is there; a field shows it whoever put it there.
+            function isRinged(item: Item): bool {
+                return item.visualFocus ?? true;
             }
 
-            function test_the_ring_follows_the_hand(data) {
-                press("Select All Safe");
-                tryVerify(() => find.button(test.made, "Clear Selection") !== null);
-                waitForRendering(test.made, 100);
-                data.clear();
-                reaches("Program Caches 1");
-                compare(host.activeFocusItem.visualFocus, data.ring);
+            function test_a_ring_is_wherever_keys_lead_data() {
+                return changes().filter(row => row.tag !== "the first scan ends");
+            }
+
+            function test_a_ring_is_wherever_keys_lead(data) {
+                data.change();
+                reaches(data.at);
+                tryVerify(() => isRinged(host.activeFocusItem), 5000, focused());
+            }
+
+            function test_no_ring_is_where_the_pointer_leads_data() {
+                const tags = ["the selection bar vanishes", "the question comes", "the question is answered with no", "the deletion ends", "the scan after a deletion ends"];
+                return changes().filter(row => tags.includes(row.tag));
+            }
+
+            function test_no_ring_is_where_the_pointer_leads(data) {
+                test.byPointer = true;
+                data.change();
+                reaches(data.at);
+                wait(0);
+                compare(isRinged(host.activeFocusItem), false);
+            }
+
+            function test_the_note_s_button_has_the_ring_again_after_a_key_data() {
+                const rows = [];
+                for (const key of ["Return", "Enter", "Space", "Escape"])
+                    for (const byPointer of [false, true])
+                        rows.push({ tag: `${key} after the ${byPointer ? "pointer" : "keyboard"}`, key: Qt[`Key_${key}`], byPointer: byPointer });
+                return rows;
+            }
+
+            function test_the_note_s_button_has_the_ring_again_after_a_key(data) {
+                test.byPointer = data.byPointer;
+                openNote();
+                keyClick(data.key);
+                reaches("Information");
+                compare(isRinged(host.activeFocusItem), true);
+            }
+
+            function test_the_note_s_button_has_no_ring_after_the_pointer() {
+                openNote();
+                mouseClick(host.contentItem, 890, 640);
+                reaches("Information");
+                compare(isRinged(host.activeFocusItem), false);
             }
 
             function test_a_scan_leaves_the_keyboard_where_it_was_put() {

@@ -1,4 +1,5 @@
 import QtQuick
+import Drossbin.Views
 
 /// Opens the note on an item's risk and closes it again; it gets the focus back then.
 SymbolButton {
@@ -9,11 +10,9 @@ SymbolButton {
     required property string riskSymbol
     required property string note
     property RiskPopover popover: null
-    property int reasonBefore: Qt.OtherFocusReason
     readonly property bool showInfo: button.popover !== null
 
     function open(): void {
-        button.reasonBefore = button.focusReason;
         button.popover = content.createObject(button, {
             opener: button,
             riskColor: button.riskColor,
@@ -27,7 +26,7 @@ SymbolButton {
     function forget(): void {
         button.popover.destroy();
         button.popover = null;
-        button.forceActiveFocus(button.reasonBefore);
+        button.forceActiveFocus(LastPress.reason);
     }
 
     symbol: "info.circle"

@@ -19,6 +19,9 @@ LastPress::LastPress(QObject* parent)
 }
 
 bool LastPress::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) {
+        return focus(watched, static_cast<QFocusEvent*>(event)->reason());
+    }
     if (!watched->isWindowType()) {
         return false;
     }
@@ -31,6 +34,16 @@ bool LastPress::eventFilter(QObject* watched, QEvent* event) {
         note(Qt::MouseFocusReason);
     }
     return false;
+}
+
+/// Whether the item has been told of its focus, with a better reason than the one given.
+bool LastPress::focus(QObject* item, Qt::FocusReason given) const {
+    if (given != Qt::PopupFocusReason) {
+        return false;
+    }
+    QFocusEvent better(QEvent::FocusIn, m_reason);
+    QCoreApplication::sendEvent(item, &better);
+    return true;
 }
 
 void LastPress::note(Qt::FocusReason reason) {

@@ -18,8 +18,6 @@ T.Popup {
     /// Qt makes a popup lower where it would reach over the edge.)
     property real away: 0
     readonly property real rise: Math.round(sheet.away * (sheet.y + sheet.height))
-    property T.Control focusedBefore: null
-    property bool ringedBefore: false
 
     signal escaped
 
@@ -36,13 +34,6 @@ T.Popup {
     visible: sheet.shown
     // What Qt puts around the content is a dialog too, but one without a name.
     Component.onCompleted: sheet.contentItem.parent.Accessible.ignored = true
-    onAboutToShow: {
-        sheet.focusedBefore = sheet.parent.Window.activeFocusItem as T.Control;
-        sheet.ringedBefore = sheet.focusedBefore?.visualFocus ?? false;
-    }
-    // The window gives the focus back, but without the ring that showed it.
-    onClosed: if (sheet.ringedBefore && sheet.focusedBefore?.activeFocus)
-        sheet.focusedBefore.focusReason = Qt.TabFocusReason
 
     contentItem: FocusScope {
         implicitWidth: childrenRect.width

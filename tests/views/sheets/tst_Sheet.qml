@@ -167,21 +167,22 @@ Item {
                 compare(second.activeFocus, true);
             }
 
-            function test_gives_the_focus_back() {
-                open();
-                compare(below.activeFocus, false);
-                cleanup();
-                tryCompare(below, "activeFocus", true);
-                compare(below.visualFocus, true);
+            function test_has_the_focus_and_gives_it_back_with_a_ring_for_keys_alone_data() {
+                return [
+                    { tag: "keyboard", press: () => keyClick(Qt.Key_Space), ring: true },
+                    { tag: "pointer", press: () => mouseClick(below), ring: false }
+                ];
             }
 
-            function test_gives_the_focus_back_without_a_ring_where_there_was_none() {
-                below.focus = false;
-                below.forceActiveFocus(Qt.MouseFocusReason);
+            function test_has_the_focus_and_gives_it_back_with_a_ring_for_keys_alone(data) {
+                data.press();
                 open();
+                compare(below.activeFocus, false);
+                compare(first.activeFocus, true);
+                compare(first.visualFocus, data.ring);
                 cleanup();
                 tryCompare(below, "activeFocus", true);
-                compare(below.visualFocus, false);
+                compare(below.visualFocus, data.ring);
             }
 
             function test_escape_is_passed_on_and_closes_nothing_by_itself() {
