@@ -62,6 +62,15 @@ FocusScope {
             id: list
 
             readonly property CategoryRow currentRow: list.currentItem as CategoryRow
+            /// How many rows a key walks. All are always in view: a page is the whole list.
+            readonly property var strides: ({
+                    [Qt.Key_Up]: -1,
+                    [Qt.Key_Down]: 1,
+                    [Qt.Key_PageUp]: -list.count,
+                    [Qt.Key_PageDown]: list.count,
+                    [Qt.Key_Home]: -list.count,
+                    [Qt.Key_End]: list.count
+                })
 
             Layout.fillWidth: true
             // The first row's name is as far from the heading as rows are from each other.
@@ -76,8 +85,11 @@ FocusScope {
             keyNavigationEnabled: false
             Accessible.role: Accessible.List
             Accessible.name: "Categories"
-            Keys.onUpPressed: sidebar.pick(sidebar.selectedCategory - 1, Qt.TabFocusReason)
-            Keys.onDownPressed: sidebar.pick(sidebar.selectedCategory + 1, Qt.TabFocusReason)
+            Keys.onPressed: event => {
+                event.accepted = event.key in list.strides;
+                if (event.accepted)
+                    sidebar.pick(sidebar.selectedCategory + list.strides[event.key], Qt.TabFocusReason);
+            }
             onCurrentRowChanged: if (list.currentRow?.activeFocus)
                 list.currentRow.focusReason = sidebar.reason
 

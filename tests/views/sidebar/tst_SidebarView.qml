@@ -181,14 +181,18 @@ TestCase {
         compare(row("Log Files").activeFocus, true);
     }
 
-    function test_arrows_walk_the_rows_and_stay_inside_data() {
+    function test_keys_walk_the_rows_and_stay_inside_data() {
         return [
             { tag: "down", key: Qt.Key_Down, first: 0, goals: [1, 2, 3, 4, 4] },
-            { tag: "up", key: Qt.Key_Up, first: 4, goals: [3, 2, 1, 0, 0] }
+            { tag: "up", key: Qt.Key_Up, first: 4, goals: [3, 2, 1, 0, 0] },
+            { tag: "end", key: Qt.Key_End, first: 1, goals: [4, 4] },
+            { tag: "home", key: Qt.Key_Home, first: 3, goals: [0, 0] },
+            { tag: "page down", key: Qt.Key_PageDown, first: 1, goals: [4, 4] },
+            { tag: "page up", key: Qt.Key_PageUp, first: 3, goals: [0, 0] }
         ];
     }
 
-    function test_arrows_walk_the_rows_and_stay_inside(data) {
+    function test_keys_walk_the_rows_and_stay_inside(data) {
         choose(data.first);
         list().forceActiveFocus(Qt.TabFocusReason);
         for (const goal of data.goals) {
@@ -210,10 +214,23 @@ TestCase {
         compare(row("Log Files").visualFocus, false);
     }
 
-    function test_an_arrow_with_none_picked_picks_the_first() {
+    function test_a_key_with_none_picked_picks_the_first_or_the_last_data() {
+        const key = (name, goal) => ({ tag: name, key: Qt[`Key_${name}`], goal: goal });
+        return [key("Down", 0), key("Up", 0), key("Home", 0), key("PageUp", 0), key("End", 4), key("PageDown", 4)];
+    }
+
+    function test_a_key_with_none_picked_picks_the_first_or_the_last(data) {
         list().forceActiveFocus(Qt.TabFocusReason);
-        keyClick(Qt.Key_Down);
-        compare(sidebar.log, [0]);
+        keyClick(data.key);
+        compare(sidebar.log, [data.goal]);
+    }
+
+    function test_other_keys_walk_nowhere() {
+        choose(2);
+        list().forceActiveFocus(Qt.TabFocusReason);
+        for (const key of [Qt.Key_Left, Qt.Key_Right, Qt.Key_X])
+            keyClick(key);
+        compare(sidebar.log, []);
     }
 
     function test_keys_pick_the_row_that_has_the_focus_data() {
