@@ -2,7 +2,6 @@
 
 #include "platform/MainThread.h"
 
-#include <cstddef>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -28,24 +27,19 @@ class ChangePublisher {
     }
 
     void send(Change change) {
-        // A listener may make another change: the list must then not move under this walk.
-        const bool isNested = std::exchange(m_isSending, true);
-        if (!isNested) {
-            std::erase_if(m_listeners, [](const auto& listener) { return listener.expired(); });
-        }
-        // A listener may subscribe another, which hears of the next change.
-        const std::size_t count = m_listeners.size();
-        for (std::size_t index = 0; index < count; ++index) {
-            if (const auto subscribed = m_listeners[index].lock()) {
+        std::erase_if(m_listeners, [](const auto& listener) { return listener.expired(); });
+        // A listener may subscribe another, which hears of the next change, or make one itself:
+        // the list must not move under this walk.
+        const auto listeners = m_listeners;
+        for (const auto& listener : listeners) {
+            if (const auto subscribed = listener.lock()) {
                 (*subscribed)(change);
             }
         }
-        m_isSending = isNested;
     }
 
   private:
     std::vector<std::weak_ptr<const Listener>> m_listeners;
-    bool m_isSending = false;
 };
 
 } // namespace drossbin
