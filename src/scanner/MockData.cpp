@@ -29,7 +29,7 @@ struct Group {
 
 using enum RiskLevel;
 
-constexpr std::array<Sample, 12> programCaches{{
+constexpr auto programCaches = std::to_array<Sample>({
     {"Adobe Premiere Pro", 38'200'000'000, safe},
     {"Adobe After Effects", 24'600'000'000, safe},
     {"DaVinci Resolve", 18'400'000'000, safe},
@@ -42,15 +42,15 @@ constexpr std::array<Sample, 12> programCaches{{
     {"Safari", 1'400'000'000, safe},
     {"Slack", 940'000'000, safe},
     {"Discord", 620'000'000, safe},
-}};
-constexpr std::array<Sample, 5> packageCaches{{
+});
+constexpr auto packageCaches = std::to_array<Sample>({
     {"Xcode DerivedData", 12'400'000'000, safe},
     {"npm cache", 3'200'000'000, safe},
     {"Homebrew", 1'800'000'000, safe},
     {"CocoaPods", 640'000'000, safe},
     {"pip cache", 380'000'000, safe},
-}};
-constexpr std::array<Sample, 9> appData{{
+});
+constexpr auto appData = std::to_array<Sample>({
     {"Docker Desktop", 18'600'000'000, caution},
     {"iCloud Drive cache", 8'400'000'000, caution},
     {"Figma", 4'200'000'000, caution},
@@ -60,20 +60,20 @@ constexpr std::array<Sample, 9> appData{{
     {"1Password", 1'200'000'000, critical},
     {"Apple Music", 1'100'000'000, safe},
     {"WhatsApp", 1'000'000'000, caution},
-}};
-constexpr std::array<Sample, 2> logFiles{{
+});
+constexpr auto logFiles = std::to_array<Sample>({
     {"User Logs", 2'100'000'000, safe},
     {"System Logs", 1'100'000'000, safe},
-}};
-constexpr std::array<Sample, 5> oldDownloads{{
+});
+constexpr auto oldDownloads = std::to_array<Sample>({
     {"macOS Sequoia Installer.app", 6'200'000'000, caution},
     {"Final Cut Pro Trial.dmg", 980'000'000, caution},
     {"project-assets-v3.zip", 640'000'000, caution},
     {"Keynote presentation.key", 420'000'000, caution},
     {"screen-recording-2024.mov", 360'000'000, caution},
-}};
+});
 
-constexpr std::array<Group, 5> groups{{
+constexpr auto groups = std::to_array<Group>({
     {DiskCategory::programCaches, "/Users/you/Library/Caches/",
      "Cache file — the app will rebuild this automatically.", seconds(3'600), seconds(2'592'000),
      programCaches},
@@ -85,7 +85,7 @@ constexpr std::array<Group, 5> groups{{
      seconds(3'600), logFiles},
     {DiskCategory::oldDownloads, "/Users/you/Downloads/", "Downloaded over 30 days ago.",
      seconds(2'592'000), seconds(7'776'000), oldDownloads},
-}};
+});
 
 std::string path(const Group& group, std::string name) {
     if (group.category == DiskCategory::programCaches) {
