@@ -220,6 +220,18 @@ TEST_F(ItemList, gives_its_rows_other_items_and_drops_or_adds_the_rest) {
     EXPECT_EQ(reset.count(), 0);
 }
 
+TEST_F(ItemList, neither_drops_nor_adds_rows_where_there_are_as_many_other_items) {
+    show({item("a", 9), item("b", 8, logFiles)});
+    const QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
+    const QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    changed.clear();
+    view.setSelectedCategory(static_cast<int>(logFiles));
+    test::turn();
+    EXPECT_THAT(names(), ElementsAre("b"));
+    EXPECT_THAT(changes(changed, model), ElementsAre("0-0:"));
+    EXPECT_EQ(removed.count() + inserted.count(), 0);
+}
+
 TEST_F(ItemList, toggles_the_right_item_of_a_filtered_list) {
     show({item("Alpha", 9), item("Beta", 8)});
     view.setSearchText("beta");
