@@ -4,6 +4,10 @@
 
 #include <gmock/gmock.h>
 
+#include <limits>
+#include <string>
+#include <sys/types.h>
+
 namespace drossbin {
 namespace {
 
@@ -78,6 +82,14 @@ TEST_F(DeletionLogTest, stays_beside_the_logs_of_earlier_runs) {
     m_home.file("Library/Logs/Drossbin/deletion-2026-02-01T14:05:09Z.log", 3);
     run({});
     EXPECT_EQ(FileManager::contentsOfDirectory(logFolder())->size(), 2U);
+}
+
+TEST_F(DeletionLogTest, takes_the_place_of_what_a_killed_run_left_of_one) {
+    const std::string ended = std::to_string(std::numeric_limits<pid_t>::max()); // no process
+    m_home.file("Library/Logs/Drossbin/.drossbin-" + ended + "-1", 3);
+    run({});
+    EXPECT_THAT(FileManager::contentsOfDirectory(logFolder()),
+                Optional(ElementsAre("deletion-2026-03-01T14:05:09Z.log")));
 }
 
 TEST_F(DeletionLogTest, is_left_even_when_the_run_removes_the_folder_of_all_logs) {
