@@ -1,4 +1,5 @@
-"""The system ends the program: by a signal, or by taking its display away."""
+"""The end of the program in the middle of its work: its window is closed, or the system ends it by a
+signal or by taking its display away."""
 
 import os
 import signal
@@ -22,6 +23,11 @@ class Ending(Journey):
 
     def start_slowly(self, milliseconds, calls=slow.CALLS):
         self.program = self.start(wrapper=slow.on(self.folder, milliseconds, calls))
+
+    def begin_scan(self):
+        self.start_slowly(NO_HURRY)
+        self.program.press("push button", "Start System Scan")
+        self.program.find("label", "Scanning program caches...")
 
     def begin_deletion(self):
         self.scan(self.program)
@@ -64,10 +70,19 @@ class Ending(Journey):
                 self.send(number)
                 self.ends_by(number)
 
+    def test_the_program_ends_at_once_when_its_window_is_closed_during_a_scan(self):
+        self.begin_scan()
+        self.assertEqual(self.program.close(), 0)
+
+    def test_a_deletion_is_finished_and_its_log_written_when_the_window_is_closed(self):
+        self.start_slowly(2)
+        self.begin_deletion()
+        self.assertTrue(os.path.exists(self.folder))
+        self.assertEqual(self.program.close(), 0)
+        self.has_finished()
+
     def test_a_signal_ends_the_program_at_once_during_a_scan(self):
-        self.start_slowly(NO_HURRY)
-        self.program.press("push button", "Start System Scan")
-        self.program.find("label", "Scanning program caches...")
+        self.begin_scan()
         self.send(signal.SIGTERM)
         self.ends_by(signal.SIGTERM)
 
