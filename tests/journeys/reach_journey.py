@@ -6,6 +6,7 @@ import re
 import subprocess
 
 import slow
+from calls import Trace
 from desktop import dies_with_us
 from driver import FIXED, PATIENCE, wait_for
 from journey import Journey, main
@@ -23,13 +24,12 @@ class Reach(Journey):
         super().setUp()
         if not slow.is_possible():
             self.skipTest("the program cannot be traced here")
-        self.trace = os.path.join(self.world.root, "trace")
-        self.watch = ["strace", "-f", "-qq", "-y", "-s", "4096", "-o", self.trace, "-e", f"trace={CALLS}"]
+        self.trace = Trace(self.world, CALLS)
         self.home.file("Library/Caches/com.example.Editor/index", 3_000_000)
 
     def use(self, **environment):
         """Starts the program, scans, deletes, and ends it."""
-        program = self.start(wrapper=self.watch, **environment)
+        program = self.start(wrapper=self.trace.wrapper, **environment)
         self.scan(program)
         program.press("check box", "com.example.Editor")
         program.press("push button", "Delete Selected")
@@ -40,8 +40,7 @@ class Reach(Journey):
         self.read_trace()
 
     def read_trace(self):
-        with open(self.trace, encoding="utf-8", errors="replace") as lines:
-            self.calls = [re.sub(r"^\d+ +", "", line) for line in lines]
+        self.calls = self.trace.calls()
         # Before it becomes the program, the process is the one that lets it end with the journey.
         own = next(n for n, call in enumerate(self.calls) if call.startswith(f'execve("{self.program_path}"'))
         self.calls = self.calls[own:]
@@ -82,7 +81,7 @@ class Reach(Journey):
 
     def test_it_starts_no_message_bus_where_there_is_none(self):
         program = subprocess.Popen(
-            [*self.watch, *dies_with_us([self.program_path])],
+            [*self.trace.wrapper, *dies_with_us([self.program_path])],
             env={**self.world.environment(**self.desktop.environment(), **FIXED), "DBUS_SESSION_BUS_ADDRESS": ""},
             stderr=subprocess.PIPE, text=True)
         self.addCleanup(program.kill)
