@@ -1,14 +1,12 @@
 """Films a scan, a selection and a deletion in a made-up home. Usage: moving_picture.py PROGRAM FILE"""
 
 import os
-import sys
 import time
 
 import slow
-import world as worlds
-from desktop import Desktop
 from driver import Program
 from home import Home
+from screens import in_new_world
 
 FRAME = 100  # milliseconds
 GIGABYTE = 1_000_000_000
@@ -53,14 +51,7 @@ def play(film):
     film.watch(2)
 
 
-def main():
-    program_path, path = map(os.path.abspath, sys.argv[1:3])
-    world = worlds.inside()
-    if world is None:
-        sys.exit(worlds.run_inside(os.path.abspath(__file__), [program_path, path]))
-    os.environ.update(world.environment())
-    desktop = Desktop(world)
-    os.environ.update(desktop.environment())
+def walk(world, desktop, program_path, path):
     home = Home(world)
     fill(home)
     held = slow.on(os.path.join(home.path, "Library/Caches/com.example.Films"), 500)
@@ -71,9 +62,8 @@ def main():
     play(film)
     program.close()
     film.save(path)
-    desktop.close()
     print(path, flush=True)
 
 
 if __name__ == "__main__":
-    main()
+    in_new_world(walk, has_motion=True)

@@ -96,6 +96,8 @@ def masked(picture, areas):
 
 
 def save_all(world, desktop, program, folder):
+    os.makedirs(folder, exist_ok=True)
+
     def save(name, picture, _areas):
         path = os.path.join(folder, f"{name}.png")
         # A palette makes them a third as large and no pixel worse than the tolerance forgives.

@@ -131,19 +131,19 @@ class Walk:
         return self._start(wrapper=held)
 
 
-def in_new_world(walk):
-    """Runs the calling script's `walk(world, desktop, program, folder)` in a new world without motion.
-    The script's arguments are the program and the folder for what it makes."""
-    program, folder = map(os.path.abspath, sys.argv[1:3])
+def in_new_world(walk, has_motion=False):
+    """Runs the calling script's `walk(world, desktop, program, target)` in a new world. The script's
+    arguments are the program and the file, or the folder, that it makes."""
+    program, target = map(os.path.abspath, sys.argv[1:3])
     world = worlds.inside()
     if world is None:
-        os.makedirs(folder, exist_ok=True)
-        sys.exit(worlds.run_inside(os.path.abspath(sys.argv[0]), [program, folder]))
+        sys.exit(worlds.run_inside(os.path.abspath(sys.argv[0]), [program, target]))
     os.environ.update(world.environment())
     desktop = Desktop(world)
     os.environ.update(desktop.environment())
-    desktop.want_no_motion()
-    walk(world, desktop, program, folder)
+    if not has_motion:
+        desktop.want_no_motion()
+    walk(world, desktop, program, target)
     desktop.close()
 
 

@@ -26,6 +26,8 @@ def fill(home):
 
 
 def walk(world, desktop, program, folder):
+    os.makedirs(folder, exist_ok=True)
+
     def take(name, running):
         path = os.path.join(folder, f"{name}.png")
         at_rest(running).save(path)

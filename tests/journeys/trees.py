@@ -44,6 +44,8 @@ def walk(world, desktop, program, take):
 
 
 def save_all(world, desktop, program, folder):
+    os.makedirs(folder, exist_ok=True)
+
     def save(name, running):
         at_rest(running)
         with open(os.path.join(folder, f"{name}.txt"), "w", encoding="utf-8") as file:
