@@ -37,7 +37,8 @@ ListView {
     HoverHandler {
         id: pointer
 
-        readonly property point place: pointer.point.position
+        // Not its position, which Qt 6.4 tells in the rows' coordinates: those are scrolled.
+        readonly property point place: rows.mapFromItem(null, pointer.point.scenePosition)
 
         parent: rows
     }

@@ -503,8 +503,27 @@ TestCase {
         compare(list().tipAt(1, 1), "");
     }
 
+    /// What the tips of the list say, those too that wait for their moment.
+    function tips(): var {
+        return Array.from(find.seen(list()).filter(item => item.isAsked && item.tip !== null).map(hint => hint.tip.text));
+    }
+
+    function test_in_a_list_that_is_scrolled_the_tip_is_about_the_row_below_the_pointer() {
+        const name = number => `${number} `.repeat(100);
+        for (let number = 0; number < items.count; ++number)
+            items.setProperty(number, "name", name(number));
+        list().positionViewAtIndex(20, ListView.Beginning);
+        waitForRendering(view, 100);
+        const label = find.label(row(22), name(22));
+        mouseMove(label, 10, 5);
+        compare(tips(), [name(22)]);
+        const hint = find.seen(list()).find(item => item.isAsked);
+        compare(hint.place, Qt.rect(label.mapToItem(list(), 10, 0).x, label.mapToItem(list(), 0, 5).y, 0, 16));
+        mouseMove(view, 1, 1);
+        list().positionViewAtBeginning();
+    }
+
     function test_a_protected_row_says_why_to_the_pointer_and_to_the_keyboard() {
-        const tips = () => Array.from(find.seen(list()).filter(item => item.isAsked && item.tip !== null).map(hint => hint.tip.text));
         const other = row(2).mapToItem(list(), 300, 10);
         compare(list().tipAt(other.x, other.y), "");
         verify(row(3).hint !== "");
