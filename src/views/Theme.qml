@@ -133,6 +133,8 @@ QtObject {
     readonly property int breathed: 1000
     /// How long the pointer or the keyboard rests before a tip comes; not a motion.
     readonly property int rested: 500
+    /// How long a tip stays where the keyboard rests: the longest is read in less.
+    readonly property int told: 7000
     readonly property int sprung: theme.lasting(Spring.duration)
 
     function lasting(milliseconds: int): int {

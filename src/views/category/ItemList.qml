@@ -138,7 +138,7 @@ RowsView {
 
         Hint {
             text: list.currentRow?.hint ?? ""
-            isAsked: list.showsFocus
+            isFocused: list.showsFocus
         }
     }
 }

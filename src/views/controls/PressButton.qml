@@ -46,6 +46,7 @@ T.AbstractButton {
 
     Hint {
         text: button.hint
-        isAsked: button.hovered || button.visualFocus
+        isPointedAt: button.hovered
+        isFocused: button.visualFocus
     }
 }

@@ -48,10 +48,10 @@ ListView {
 
         parent: rows
         text: pointer.hovered && !rows.moving ? rows.tipAt(pointer.place.x, pointer.place.y) : ""
-        isAsked: text !== ""
+        isPointedAt: text !== ""
         place: Qt.rect(pointer.place.x, pointer.place.y, 0, Theme.space16)
         widest: Theme.tipWidth
         wrapMode: Text.WrapAnywhere
-        onTextChanged: tip.isAnswered = false // it is about another row
+        onTextChanged: tip.pointAnew() // it is about another row
     }
 }

@@ -92,6 +92,7 @@ T.ItemDelegate {
 
     Hint {
         text: row.hint
-        isAsked: row.hovered || row.visualFocus
+        isPointedAt: row.hovered
+        isFocused: row.visualFocus
     }
 }

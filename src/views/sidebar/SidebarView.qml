@@ -54,7 +54,7 @@ FocusScope {
 
             Hint {
                 text: sidebar.wayBack
-                isAsked: pointer.hovered
+                isPointedAt: pointer.hovered
             }
         }
 

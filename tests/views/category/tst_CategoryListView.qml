@@ -508,6 +508,19 @@ TestCase {
         return Array.from(find.seen(list()).filter(item => item.isAsked && item.tip !== null).map(hint => hint.tip.text));
     }
 
+    function test_a_row_that_is_scrolled_below_the_pointer_says_why_when_that_moves() {
+        const place = row(2).mapToItem(view, 300, 10);
+        mouseMove(view, place.x, place.y);
+        compare(tips(), []);
+        list().contentY += row(3).y - row(2).y;
+        waitForRendering(view, 100);
+        compare(tips(), []);
+        mouseMove(view, place.x + 1, place.y);
+        compare(tips(), [row(3).hint]);
+        mouseMove(view, 1, 1);
+        list().positionViewAtBeginning();
+    }
+
     function test_in_a_list_that_is_scrolled_the_tip_is_about_the_row_below_the_pointer() {
         const name = number => `${number} `.repeat(100);
         for (let number = 0; number < items.count; ++number)

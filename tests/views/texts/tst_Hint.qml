@@ -93,6 +93,51 @@ Item {
                 compare(tip(), null);
             }
 
+            function test_goes_after_a_while_where_the_keyboard_rests_and_comes_again() {
+                button.forceActiveFocus(Qt.TabFocusReason);
+                compare(shown().timeout, Theme.told);
+                tip().timeout = 1;
+                tryVerify(() => tip() === null);
+                mouseMove(button);
+                shown();
+                mouseMove(test, 600, 390);
+                compare(tip(), null);
+                other.forceActiveFocus(Qt.TabFocusReason);
+                button.forceActiveFocus(Qt.TabFocusReason);
+                shown();
+            }
+
+            function test_stays_as_long_as_the_pointer_does() {
+                mouseMove(button);
+                compare(shown().timeout <= 0, true);
+                button.forceActiveFocus(Qt.TabFocusReason);
+                compare(tip().timeout <= 0, true);
+            }
+
+            /// Has the button come below a pointer that rests, as what is in a sheet does.
+            function comeBelow() {
+                mouseMove(test, 250, 310);
+                button.y = 300;
+                tryCompare(button, "hovered", true);
+            }
+
+            function test_what_comes_below_the_pointer_tells_nothing_until_that_moves() {
+                comeBelow();
+                compare(tip(), null);
+                mouseMove(test, 251, 310);
+                compare(button.hovered, true);
+                shown();
+            }
+
+            function test_what_comes_below_the_pointer_and_is_pressed_tells_nothing() {
+                comeBelow();
+                mousePress(test, 250, 310);
+                mouseRelease(test, 250, 310);
+                mouseMove(test, 251, 310);
+                compare(button.hovered, true);
+                compare(tip(), null);
+            }
+
             function test_the_focus_that_a_click_brings_asks_for_nothing() {
                 button.forceActiveFocus(Qt.MouseFocusReason);
                 compare(tip(), null);
