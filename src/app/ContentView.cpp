@@ -16,9 +16,7 @@ ContentView::ContentView(Services services, QObject* parent)
     , m_items(m_scanResult)
     , m_selectedItems(m_scanResult)
     , m_subscription(m_scanResult.objectWillChange.subscribe(
-          [this](ScanResult::Field field) { noteChange(field); })) {
-    connect(&m_motion, &MotionPreference::answered, this, &ContentView::reducesMotionChanged);
-}
+          [this](ScanResult::Field field) { noteChange(field); })) {}
 
 ContentView::Screen ContentView::screen() const {
     if (m_scanResult.isScanning) {
@@ -89,7 +87,7 @@ void ContentView::clearSelection() {
 }
 
 void ContentView::prepare() {
-    m_motion.ask();
+    m_desktop.follow();
     // For the first text of a locale ICU reads its data. The screens of a scan would wait for that,
     // on a cold disk for longer than for all else.
     BackgroundThread::run([] { itemsAndSizeText(1, 1); });

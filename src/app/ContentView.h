@@ -1,10 +1,10 @@
 #pragma once
 
 #include "app/CategoryListModel.h"
+#include "app/DesktopSettings.h"
 #include "app/ItemListModel.h"
 #include "app/ItemSurvey.h"
 #include "app/LogLinesModel.h"
-#include "app/MotionPreference.h"
 #include "app/Services.h"
 #include "app/ShownValues.h"
 
@@ -23,7 +23,7 @@ class ContentView : public QObject {
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY shownChanged)
     Q_PROPERTY(
         int selectedCategory READ selectedCategory WRITE setSelectedCategory NOTIFY shownChanged)
-    Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY reducesMotionChanged)
+    Q_PROPERTY(drossbin::DesktopSettings* desktop READ desktop CONSTANT)
     Q_PROPERTY(drossbin::CategoryListModel* categories READ categories CONSTANT)
     Q_PROPERTY(drossbin::ItemListModel* items READ items CONSTANT)
     Q_PROPERTY(drossbin::ItemListModel* selectedItems READ selectedItems CONSTANT)
@@ -43,8 +43,8 @@ class ContentView : public QObject {
     /// The category's place in the declared order; -1 for none.
     [[nodiscard]] int selectedCategory() const;
     void setSelectedCategory(int place);
-    [[nodiscard]] bool reducesMotion() const { return m_motion.isReduced(); }
 
+    DesktopSettings* desktop() { return &m_desktop; }
     CategoryListModel* categories() { return &m_categories; }
     /// The rows of the category shown.
     ItemListModel* items() { return &m_items; }
@@ -73,15 +73,14 @@ class ContentView : public QObject {
     /// Whether Option (Alt) is held at this moment.
     [[nodiscard]] Q_INVOKABLE static bool optionHeld();
 
-    /// Asks the desktop for its settings and reads the locale's data, both in the background. For
-    /// the moment after the first frame: the start waits for neither.
+    /// Begins to follow the desktop's settings and reads the locale's data, both in the background.
+    /// For the moment after the first frame: the start waits for neither.
     Q_INVOKABLE void prepare();
 
   signals:
     /// Once a turn, whatever changed. A screen binds each value to a property of its own, which
     /// stays silent where the value is the same.
     void shownChanged();
-    void reducesMotionChanged();
     void closeNow();
 
   private:
@@ -117,7 +116,7 @@ class ContentView : public QObject {
     ItemListModel m_items;
     ItemListModel m_selectedItems;
     LogLinesModel m_deletionLog;
-    MotionPreference m_motion;
+    DesktopSettings m_desktop;
     ChangePublisher<ScanResult::Field>::Subscription m_subscription;
 };
 

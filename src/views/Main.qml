@@ -45,7 +45,13 @@ T.ApplicationWindow {
     Binding {
         target: Theme
         property: "animated"
-        value: !content.reducesMotion
+        value: !content.desktop.reducesMotion
+    }
+
+    Binding {
+        target: Theme
+        property: "colorScheme"
+        value: content.desktop.colorScheme
     }
 
     Shortcut {

@@ -1,6 +1,7 @@
 pragma Singleton
 
 import QtQuick
+import Drossbin.App
 import Drossbin.Views
 
 QtObject {
@@ -10,7 +11,9 @@ QtObject {
     property bool animated: true
     /// Whether the language of the user is written from right to left: then everything is mirrored.
     property bool mirrored: Qt.locale().textDirection === Qt.RightToLeft
-    property bool dark: theme.palette.window.hslLightness < 0.5
+    property bool dark: theme.colorScheme === DesktopSettings.Dark || theme.colorScheme === DesktopSettings.NoPreference && theme.palette.window.hslLightness < 0.5
+    /// What the user asked for; where that is nothing the desktop's colours decide.
+    property int colorScheme: DesktopSettings.NoPreference
     readonly property SystemPalette palette: SystemPalette {}
 
     // Surfaces

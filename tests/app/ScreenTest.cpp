@@ -87,7 +87,7 @@ TEST_F(Screen, starts_without_sheets_category_or_search_text) {
     EXPECT_FALSE(view.shown().isDeleting);
     EXPECT_EQ(view.selectedCategory(), -1);
     EXPECT_EQ(view.searchText(), "");
-    EXPECT_FALSE(view.reducesMotion());
+    EXPECT_FALSE(view.desktop()->reducesMotion());
     EXPECT_FALSE(view.optionHeld());
 }
 
