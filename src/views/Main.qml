@@ -54,6 +54,12 @@ T.ApplicationWindow {
         value: content.desktop.colorScheme
     }
 
+    Binding {
+        target: Theme
+        property: "increasedContrast"
+        value: content.desktop.increasesContrast
+    }
+
     Shortcut {
         sequences: [StandardKey.Close, StandardKey.Quit] // qmllint disable unqualified
         context: Qt.ApplicationShortcut

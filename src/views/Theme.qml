@@ -14,7 +14,12 @@ QtObject {
     property bool dark: theme.colorScheme === DesktopSettings.Dark || theme.colorScheme === DesktopSettings.NoPreference && theme.palette.window.hslLightness < 0.5
     /// What the user asked for; where that is nothing the desktop's colours decide.
     property int colorScheme: DesktopSettings.NoPreference
+    property bool increasedContrast: false
     readonly property SystemPalette palette: SystemPalette {}
+
+    // Laid over texts and lines, and over fills below white texts, where more contrast is asked for
+    readonly property color stronger: !theme.increasedContrast ? "transparent" : theme.dark ? Qt.rgba(1, 1, 1, 0.6) : Qt.rgba(0, 0, 0, 0.4)
+    readonly property color deeper: theme.increasedContrast ? Qt.rgba(0, 0, 0, 0.3) : "transparent"
 
     // Surfaces
     readonly property color window: theme.dark ? "#1c1c1f" : "#ffffff"
@@ -26,8 +31,8 @@ QtObject {
     readonly property color materialPressed: theme.dark ? Qt.rgba(1, 1, 1, 0.13) : Qt.rgba(0, 0, 0, 0.085)
     /// Under white text, so it is dark in both appearances.
     readonly property color darkMaterial: theme.dark ? Qt.rgba(1, 1, 1, 0.08) : Qt.rgba(0.11, 0.11, 0.13, 0.86)
-    readonly property color divider: theme.dark ? Qt.rgba(1, 1, 1, 0.12) : Qt.rgba(0, 0, 0, 0.1)
-    readonly property color outline: theme.dark ? Qt.rgba(1, 1, 1, 0.16) : Qt.rgba(0, 0, 0, 0.16)
+    readonly property color divider: Qt.tint(theme.dark ? Qt.rgba(1, 1, 1, 0.12) : Qt.rgba(0, 0, 0, 0.1), theme.stronger)
+    readonly property color outline: Qt.tint(theme.dark ? Qt.rgba(1, 1, 1, 0.16) : Qt.rgba(0, 0, 0, 0.16), theme.stronger)
     readonly property color tooltip: "#3a3a3e"
     readonly property color tooltipEdge: Qt.rgba(1, 1, 1, 0.12)
     readonly property color dim: Qt.rgba(0, 0, 0, theme.dark ? 0.5 : 0.25)
@@ -35,18 +40,18 @@ QtObject {
     /// One of the shapes that a shadow is made of.
     readonly property color shadow: Qt.rgba(0, 0, 0, theme.dark ? 0.05 : 0.011)
 
-    // Texts: 4.5:1 and more on every surface that they are on
+    // Texts: 4.5:1 and more on every surface that they are on, or 7:1
     readonly property color label: theme.dark ? "#f2f2f5" : "#1d1d1f"
-    readonly property color secondary: theme.dark ? "#b8b8be" : "#58585d"
-    readonly property color tertiary: theme.dark ? "#a0a0a7" : "#66666b"
+    readonly property color secondary: Qt.tint(theme.dark ? "#b8b8be" : "#58585d", theme.stronger)
+    readonly property color tertiary: Qt.tint(theme.dark ? "#a0a0a7" : "#66666b", theme.stronger)
     readonly property color quaternary: theme.dark ? Qt.rgba(1, 1, 1, 0.09) : "#e5e5ea"
     readonly property color bright: "#ffffff"
     readonly property color brightSecondary: "#d2d2d8"
     /// The accent: the hue of the primary fill, and as near to its shade as texts can be.
-    readonly property color blue: theme.dark ? "#2a82ff" : "#0066f5"
-    readonly property color green: theme.dark ? "#3ddc62" : "#12682c"
-    readonly property color orange: theme.dark ? "#ffa526" : "#954900"
-    readonly property color red: theme.dark ? "#ff8077" : "#b8221a"
+    readonly property color blue: Qt.tint(theme.dark ? "#2a82ff" : "#0066f5", theme.stronger)
+    readonly property color green: Qt.tint(theme.dark ? "#3ddc62" : "#12682c", theme.stronger)
+    readonly property color orange: Qt.tint(theme.dark ? "#ffa526" : "#954900", theme.stronger)
+    readonly property color red: Qt.tint(theme.dark ? "#ff8077" : "#b8221a", theme.stronger)
 
     // Behind a text of their colour: clear hues, of which little is enough
     readonly property color greenTint: theme.dark ? theme.green : "#34c759"
@@ -54,13 +59,13 @@ QtObject {
     readonly property color redTint: theme.dark ? theme.red : "#ff3b30"
 
     // Large symbols: 3:1 is enough there, and a lighter hand is friendlier
-    readonly property color symbolGreen: theme.dark ? "#32d74b" : "#209a3e"
-    readonly property color symbolOrange: theme.dark ? "#ff9f0a" : "#d86e00"
+    readonly property color symbolGreen: Qt.tint(theme.dark ? "#32d74b" : "#209a3e", theme.stronger)
+    readonly property color symbolOrange: Qt.tint(theme.dark ? "#ff9f0a" : "#d86e00", theme.stronger)
 
     // Fills under white labels, the same in both appearances
-    readonly property color primaryFill: Qt.rgba(0, 0.42, 1, 1)
+    readonly property color primaryFill: Qt.tint(Qt.rgba(0, 0.42, 1, 1), theme.deeper)
     readonly property color secondaryFill: Qt.rgba(1, 1, 1, 0.08)
-    readonly property color dangerFill: "#d92d20"
+    readonly property color dangerFill: Qt.tint("#d92d20", theme.deeper)
     /// Over a fill while the pointer is: a strong one gets darker, so that white stays readable.
     readonly property color strongHovered: Qt.rgba(0, 0, 0, 0.08)
     readonly property color faintHovered: theme.dark ? Qt.rgba(1, 1, 1, 0.06) : Qt.rgba(0, 0, 0, 0.06)

@@ -17,6 +17,7 @@ TestCase {
 
     function cleanup() {
         Theme.dark = false;
+        Theme.increasedContrast = false;
     }
 
     /// What is written on what, the surface below first.
@@ -56,17 +57,35 @@ TestCase {
 
     function test_texts_stand_out_from_what_they_are_on_data() {
         const rows = [];
-        for (const dark of [false, true]) {
-            Theme.dark = dark;
+        for (const appearance of appearances()) {
+            show(appearance);
             for (const pair of pairs())
                 for (const text of pair.texts)
-                    rows.push({ tag: (dark ? "dark: " : "light: ") + text + " on " + pair.on, ratio: contrast.of(Theme[text], pair.surfaces) });
+                    rows.push({ tag: appearance.tag + ": " + text + " on " + pair.on, ratio: contrast.of(Theme[text], pair.surfaces), least: appearance.increased ? 7 : 4.5 });
         }
         return rows;
     }
 
     function test_texts_stand_out_from_what_they_are_on(data) {
-        verify(data.ratio >= 4.5, data.ratio);
+        verify(data.ratio >= data.least, data.ratio);
+    }
+
+    function test_outlines_stand_out_where_more_contrast_is_asked_for_data() {
+        return appearances().filter(appearance => appearance.increased);
+    }
+
+    function test_outlines_stand_out_where_more_contrast_is_asked_for(data) {
+        show(data);
+        for (const line of [Theme.divider, Theme.outline])
+            for (const surfaces of [[Theme.window], [Theme.sidebar], [Theme.sheet], [Theme.window, Theme.material], [Theme.window, Theme.secondaryFill], [Theme.sheet, Theme.secondaryFill]])
+                verify(contrast.of(line, surfaces) >= 3, contrast.of(line, surfaces));
+    }
+
+    function test_all_is_as_stated_where_no_more_contrast_is_asked_for() {
+        compare(Theme.primaryFill, Qt.rgba(0, 0.42, 1, 1));
+        compare(Theme.dangerFill, "#d92d20");
+        compare([Theme.secondary, Theme.tertiary].map(String), ["#58585d", "#66666b"]);
+        compare(Theme.divider, Qt.rgba(0, 0, 0, 0.1));
     }
 
     function test_tints_are_clear_in_light_and_those_of_the_texts_in_dark() {
@@ -92,7 +111,7 @@ TestCase {
     }
 
     function test_blue_symbols_stand_out_from_what_they_are_on(data) {
-        Theme.dark = data.dark;
+        show(data);
         for (const surface of [Theme.material, Theme.materialHovered, Theme.materialPressed])
             verify(contrast.of(Theme.blue, [Theme.window, surface]) >= 3, surface);
         verify(contrast.of(Theme.blue, [Theme.sidebar, Theme.picked]) >= 3);
@@ -104,7 +123,7 @@ TestCase {
     }
 
     function test_parts_of_the_meter_are_told_apart(data) {
-        Theme.dark = data.dark;
+        show(data);
         const track = contrast.over(Theme.quaternary, Theme.sidebar);
         const found = contrast.over(Theme.tinted(Theme.blue, 0.2), track);
         verify(contrast.of(Theme.blue, [found]) >= 3, contrast.of(Theme.blue, [found]));
@@ -118,7 +137,7 @@ TestCase {
     }
 
     function test_cards_stand_off_the_window(data) {
-        Theme.dark = data.dark;
+        show(data);
         const surface = contrast.over(Theme.material, Theme.window);
         verify(contrast.of(surface, [Theme.window]) >= 1.09, contrast.of(surface, [Theme.window]));
         const edge = contrast.over(Theme.divider, surface);
@@ -131,7 +150,17 @@ TestCase {
     }
 
     function appearances(): var {
-        return [{ tag: "light", dark: false }, { tag: "dark", dark: true }];
+        return [
+            { tag: "light", dark: false, increased: false },
+            { tag: "dark", dark: true, increased: false },
+            { tag: "light, increased", dark: false, increased: true },
+            { tag: "dark, increased", dark: true, increased: true }
+        ];
+    }
+
+    function show(appearance: var): void {
+        Theme.dark = appearance.dark;
+        Theme.increasedContrast = appearance.increased;
     }
 
     function test_large_symbols_stand_out_from_what_they_are_on_data() {
@@ -139,7 +168,7 @@ TestCase {
     }
 
     function test_large_symbols_stand_out_from_what_they_are_on(data) {
-        Theme.dark = data.dark;
+        show(data);
         verify(contrast.of(Theme.symbolGreen, [Theme.window]) >= 3);
         verify(contrast.of(Theme.symbolGreen, [Theme.sheet]) >= 3);
         verify(contrast.of(Theme.symbolOrange, [Theme.sheet]) >= 3);
