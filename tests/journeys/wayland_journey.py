@@ -2,15 +2,18 @@
 
 from driver import wait_for
 from journey import Journey, main
+from pictures import area
 from wayland import WaylandDesktop
+
+ROLES = ("push button", "check box", "text", "label", "list item")
 
 
 class OnWayland(Journey):
-    def start_at(self, scale):
+    def start_at(self, scale, **environment):
         self.desktop = WaylandDesktop(
-            self.world, type(self).desktop, "--width=1200", "--height=850", f"--scale={scale}")
+            self.world, type(self).desktop, "--width=1200", "--height=950", f"--scale={scale}")
         self.addCleanup(self.desktop.close)
-        return self.start(QT_QPA_PLATFORM="wayland")
+        return self.start(QT_QPA_PLATFORM="wayland", **environment)
 
     def test_scans_and_deletes_at_scale_1(self):
         self.scans_and_deletes_at(1)
@@ -41,6 +44,49 @@ class OnWayland(Journey):
         wait_for("the program's end", lambda: program.process.poll() is not None)
         self.assertEqual((program.process.returncode, program.errors()), (0, ""))
 
+    def test_is_maximised_and_back_at_scale_1(self):
+        self.is_maximised_and_back(1)
+
+    def test_is_maximised_and_back_at_scale_2(self):
+        self.is_maximised_and_back(2)
+
+    # What lies between whole numbers neither this compositor nor Qt 6.4 knows of; the toolkit's own
+    # factor is what a user has for that.
+    def test_is_maximised_and_back_at_a_scale_between(self):
+        self.is_maximised_and_back(1, QT_SCALE_FACTOR="1.25")
+
+    def is_maximised_and_back(self, scale, **environment):
+        self.home.furnish()
+        program = self.start_at(scale, **environment)
+        wait_for("the keyboard", program.focused)
+        self.scan(program)
+        before = self.frame(program)
+        program.key("Super_L", "Shift_L", "M")
+        wait_for("a larger window", lambda: self.frame(program) > before)
+        program.press("push button", "Select All Safe")
+        program.find("push button", "Delete Selected")
+        wait_for(lambda: f"all within {self.frame(program)}, but for {self.outside(program)}",
+                 lambda: self.reaches_the_corner(program) and not self.outside(program))
+        program.key("Super_L", "Shift_L", "M")
+        wait_for("the window as it was", lambda: self.frame(program) == before)
+        self.assertEqual(program.errors(), "")
+
+    def frame(self, program):
+        return area(*program.shown("frame"))
+
+    def outside(self, program):
+        """What is clipped by the window's edge."""
+        left, top, right, bottom = self.frame(program)
+        boxes = {str(control): area(control) for role in ROLES for control in program.shown(role)}
+        return {name: box for name, box in boxes.items()
+                if box[0] < left or box[1] < top or box[2] > right or box[3] > bottom}
+
+    def reaches_the_corner(self, program):
+        """The last button is as far from the corner as its margins are."""
+        _, _, right, bottom = self.frame(program)
+        button = area(program.find("push button", "Delete Selected"))
+        return 0 < right - button[2] < 32 and 0 < bottom - button[3] < 32
+
 
 if __name__ == "__main__":
-    main(screen=(2600, 1800))
+    main(screen=(2600, 2000))
