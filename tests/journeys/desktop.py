@@ -94,6 +94,11 @@ class Desktop:
         window.set_input_focus(X.RevertToParent, X.CurrentTime, onerror=not_shown)
         self._x.sync()
 
+    def unfocus(self):
+        """Takes the keyboard from every window, as another program's does."""
+        self._x.screen().root.set_input_focus(X.RevertToParent, X.CurrentTime)
+        self._x.sync()
+
     def resize(self, window, width, height):
         window.configure(width=width, height=height)
         self._x.sync()

@@ -5,6 +5,7 @@ import os
 from driver import wait_for
 from home import title
 from journey import Journey, main
+from screens import at_rest
 
 FAR = 60  # more steps than any control is away
 
@@ -69,6 +70,29 @@ class Keyboard(Journey):
         self.walk_to("push button", "Package Caches")
         self.key("Return")
         self.is_reached("list item", "Cargo/Rust cache")
+
+    def test_the_ring_comes_back_with_the_window(self):
+        self.scan_by_keys()
+        self.key("Down")
+        self.is_reached("list item", "com.example.Editor")
+        ringed = at_rest(self.program).tobytes()
+        self.program.desktop.unfocus()
+        wait_for("the ring to go", lambda: self.program.picture().tobytes() != ringed)
+        self.program.desktop.focus(self.program.window)
+        wait_for("the ring to come back", lambda: self.program.picture().tobytes() == ringed)
+
+    def test_a_filter_is_typed_on_when_the_window_comes_back(self):
+        self.scan_by_keys()
+        self.key("Control_L", "f")
+        self.is_reached("text", "Filter items...")
+        self.program.desktop.type("edi")
+        self.shows_rows(self.program, ["com.example.Editor"])
+        self.program.desktop.unfocus()
+        wait_for("the focus to go", lambda: self.program.focused() is None)
+        self.program.desktop.focus(self.program.window)
+        self.is_reached("text", "Filter items...")
+        self.program.desktop.type("tors")
+        self.shows_rows(self.program, [])
 
     def test_a_filter_that_is_not_seen_takes_no_letters(self):
         self.scan_by_keys()

@@ -38,7 +38,7 @@ bool LastPress::eventFilter(QObject* watched, QEvent* event) {
 
 /// Whether the item has been told of its focus, with a better reason than the one given.
 bool LastPress::focus(QObject* item, Qt::FocusReason given) const {
-    if (given != Qt::PopupFocusReason) {
+    if (given != Qt::PopupFocusReason && given != Qt::ActiveWindowFocusReason) {
         return false;
     }
     QFocusEvent better(QEvent::FocusIn, m_reason);

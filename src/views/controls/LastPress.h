@@ -6,9 +6,9 @@
 namespace drossbin {
 
 /// What was pressed last, wherever in the program: it tells whether the keyboard is in use. Holding
-/// Shift or the like is no press, and neither is the repetition of a key. The focus that a sheet or
-/// a note brings or gives back is taken for that press's: Qt has a reason of its own for it, with
-/// which no control would draw a ring.
+/// Shift or the like is no press, and neither is the repetition of a key. The focus that a sheet, a
+/// note or the window itself brings or gives back is taken for that press's: Qt has reasons of its
+/// own for those, with which no control would draw a ring.
 class LastPress : public QObject {
     Q_OBJECT
     QML_ELEMENT
