@@ -1,6 +1,5 @@
 #include "SizeSituation.h"
 
-#include <cerrno>
 #include <filesystem>
 
 namespace drossbin {
@@ -8,8 +7,10 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::absent;
+using test::before;
+using test::failAtTheDisk;
+using test::removeItem;
 using test::ScratchFolder;
-using test::SystemCallHook;
 using Scratch = const ScratchFolder&;
 using Situation = test::SizeSituation;
 
@@ -76,23 +77,10 @@ const std::vector<Situation> permissions{
      "item/locked/file"},
 };
 
-/// Does `change` before the `nth` call of `function` about `name`.
-auto before(std::string_view function, std::string_view name,
-            const std::function<int(Scratch)>& change, int nth = 1) {
-    return [=, calls = 0](Scratch scratch, const SystemCallHook::Call& call) mutable {
-        const bool isMeant = call.function == function && call.name == name;
-        return isMeant && ++calls == nth ? change(scratch) : 0;
-    };
-}
-
 void makeItem(Scratch s) {
     s.file("item/folder/below", 70);
     s.file("item/file", 7);
     s.file("outside/canary", 1'000'000);
-}
-
-int failAtTheDisk(Scratch) {
-    return EIO;
 }
 
 int replaceFolderByLink(Scratch s) {
@@ -103,11 +91,6 @@ int replaceFolderByLink(Scratch s) {
 
 int moveFolderOut(Scratch s) {
     fs::rename(s / "item/folder", s / "outside/moved");
-    return 0;
-}
-
-int removeItem(Scratch s) {
-    fs::remove_all(s / "item");
     return 0;
 }
 

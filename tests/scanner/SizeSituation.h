@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scanner/DiskScanner.h"
+#include "support/Changes.h"
 #include "support/Limits.h"
 #include "support/ScratchFolder.h"
 #include "support/SystemCalls.h"
@@ -25,7 +26,7 @@ struct SizeSituation {
     std::int64_t bytes;                    ///< of all but folders, or `absent`
     std::vector<std::string> folders = {}; ///< which count as well, with whatever size they have
     std::string item = "item";
-    std::function<int(const ScratchFolder&, const SystemCallHook::Call&)> meanwhile = {};
+    Strike meanwhile = {};
 };
 
 inline void PrintTo(const SizeSituation& situation, std::ostream* stream) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/FileManager.h"
+#include "support/Changes.h"
 #include "support/ScratchFolder.h"
 #include "support/SystemCalls.h"
 
@@ -19,14 +20,13 @@ namespace drossbin::test {
 /// A state of the disk, and what becomes of it when an item in it is removed.
 struct RemovalSituation {
     using Make = std::function<void(const ScratchFolder&)>;
-    using Meanwhile = std::function<int(const ScratchFolder&, const SystemCallHook::Call&)>;
 
     std::string name;
     Make make;
     std::vector<std::string> left = {}; ///< all that there is afterwards
     int error = 0;                      ///< what the removal fails with, or 0
     std::string item = "item";
-    Meanwhile meanwhile = {}; ///< what strikes before each call of the removal
+    Strike meanwhile = {}; ///< what strikes before each call of the removal
 };
 
 inline void PrintTo(const RemovalSituation& situation, std::ostream* stream) {

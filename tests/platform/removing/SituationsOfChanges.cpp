@@ -1,7 +1,6 @@
 #include "RemovalSituation.h"
 
 #include <cerrno>
-#include <memory>
 
 namespace drossbin::test {
 
@@ -9,16 +8,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using Scratch = const ScratchFolder&;
-using Call = SystemCallHook::Call;
-
-/// Does `change` right before the `nth` call of `function` about `name`.
-RemovalSituation::Meanwhile before(std::string_view function, std::string_view name,
-                                   const std::function<int(Scratch)>& change, int nth = 1) {
-    return [=, calls = std::make_shared<int>(0)](Scratch scratch, const Call& call) {
-        const bool isMeant = call.function == function && call.name == name;
-        return isMeant && ++*calls == nth ? change(scratch) : 0;
-    };
-}
 
 void makeItem(Scratch s) {
     s.file("item/folder/below", 1);
@@ -56,15 +45,6 @@ int moveItem(Scratch s) {
 int moveFolderAway(Scratch s) {
     fs::rename(s / "item/folder", s / "target/moved");
     return 0;
-}
-
-int removeItem(Scratch s) {
-    fs::remove_all(s / "item");
-    return 0;
-}
-
-int failAtTheDisk(Scratch) {
-    return EIO;
 }
 
 } // namespace
