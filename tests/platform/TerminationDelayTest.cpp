@@ -105,6 +105,19 @@ TEST(TerminationDelay, lasts_through_hang_ups_whatever_comes_with_them) {
     }));
 }
 
+// On another thread a signal may be noted that late.
+TEST(TerminationDelay, forgets_a_signal_that_came_as_the_last_one_went) {
+    EXPECT_TRUE(goesOn([] {
+        struct sigaction noting {};
+        {
+            const TerminationDelay delay;
+            ::sigaction(SIGTERM, nullptr, &noting);
+        }
+        noting.sa_handler(SIGTERM);
+        const TerminationDelay delay;
+    }));
+}
+
 /// Whether the process's first thread waits for something; taken for granted where nobody tells.
 bool isFirstThreadWaiting() {
     const std::string first = std::to_string(::getpid());
