@@ -18,6 +18,16 @@ TEST_F(Screen, is_the_landing_before_any_scan) {
     EXPECT_EQ(view.screen(), ContentView::Landing);
 }
 
+// A screen that is made before the state was read must not say that a scan runs.
+TEST_F(Screen, shows_no_run_before_any_began) {
+    EXPECT_FALSE(view.shown().isScanning);
+    EXPECT_FALSE(view.shown().isDeleting);
+    EXPECT_FALSE(view.shown().showConfirmation);
+    EXPECT_FALSE(view.shown().showDeletionComplete);
+    EXPECT_FALSE(view.shown().hasSelection);
+    EXPECT_FALSE(view.shown().hasBrowserData);
+}
+
 TEST_F(Screen, is_the_progress_while_a_scan_runs_whatever_was_shown_before) {
     view.scanResult().isScanning = true;
     EXPECT_EQ(view.screen(), ContentView::Scanning);
