@@ -40,9 +40,9 @@ bool isFolder(int parent, const char* name, DirectoryBlock::Kind kind) {
                                                  : kind == DirectoryBlock::Kind::folder;
 }
 
-// No error for what is gone already, nor for what is a folder by now: a later pass finds it.
+// No error for what is gone or a folder by now, which not all systems say: a later pass finds it.
 std::error_code removeNonFolder(int parent, const char* name) {
-    if (::unlinkat(parent, name, 0) == 0 || errno == ENOENT) {
+    if (::unlinkat(parent, name, 0) == 0 || errno == ENOENT || errno == EISDIR) {
         return {};
     }
     const std::error_code error = lastSystemError();

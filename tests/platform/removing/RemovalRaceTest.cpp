@@ -73,6 +73,26 @@ class RemovalRace : public testing::Test {
     std::string m_item = m_scratch / "item";
 };
 
+#ifndef __APPLE__ // where what says "a folder" also says "not allowed"
+TEST_F(RemovalRace, goes_on_where_a_file_was_a_folder_for_a_moment) {
+    const std::string file = m_item + "/file";
+    int calls = 0;
+    const SystemCallHook hook([&](const SystemCallHook::Call& call) {
+        if (call.name == "file" && calls++ == 0) {
+            fs::remove(file);
+            fs::create_directory(file);
+        } else if (call.name == "file" && calls == 2) {
+            fs::remove(file);
+            fs::create_symlink(m_scratch / "canary", file);
+        }
+        return 0;
+    });
+    EXPECT_EQ(FileManager::removeItem(m_item), noError);
+    EXPECT_GT(calls, 2);
+    expectOnlyCanaryLeft();
+}
+#endif
+
 TEST_F(RemovalRace, with_one_who_removes_a_file_first_is_no_error) {
     EXPECT_EQ(remove("unlinkat", "file", [&] { fs::remove(m_item + "/file"); }), noError);
     expectOnlyCanaryLeft();
