@@ -88,8 +88,8 @@ void ContentView::clearSelection() {
 
 void ContentView::prepare() {
     m_desktop.follow();
-    // For the first text of a locale ICU reads its data. The screens of a scan would wait for that,
-    // on a cold disk for longer than for all else.
+    // For the first text of a locale ICU reads its data: on a cold disk the first screens of a scan
+    // would wait for that.
     BackgroundThread::run([] { itemsAndSizeText(1, 1); });
 }
 

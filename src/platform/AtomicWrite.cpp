@@ -76,7 +76,7 @@ std::error_code flush(int descriptor) {
 }
 
 /// Locked as long as it is open, so that others can tell that somebody writes it who have no number
-/// for that process: in another container, or on another host with the same home folder.
+/// for that process, as in another container with the same home folder.
 FileDescriptor newLockedFile(int folder, const std::string& name) {
     constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     FileDescriptor file(uninterrupted([&] { return ::openat(folder, name.c_str(), flags, 0644); }));
