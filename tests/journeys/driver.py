@@ -7,6 +7,7 @@ import signal
 import subprocess
 import time
 
+import slow
 from control import Atspi, Control, GLib
 from desktop import dies_with_us
 
@@ -128,6 +129,7 @@ class Program:
 
     def kill(self):
         if self.process.poll() is None:
+            slow.let_go(self.process)  # a call that is held would outlive the program
             self.process.send_signal(signal.SIGKILL)
         self.process.wait()
 

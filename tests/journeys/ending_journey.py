@@ -10,6 +10,7 @@ from journey import Journey, main
 
 ENTRIES = 1_000
 NO_HURRY = 400  # milliseconds for each call: together far longer than anyone waits below
+SOON = 5  # for each removal: time enough for what happens in the middle, also on a busy machine
 
 
 class Ending(Journey):
@@ -37,22 +38,15 @@ class Ending(Journey):
         self.program.find("label", "Deleting files...")
         wait_for("the first removal", lambda: len(os.listdir(self.folder)) < ENTRIES)
 
-    def pid(self):
-        """Of the program itself, which is the tracer's child."""
-        tracer = self.program.process.pid
-        with open(f"/proc/{tracer}/task/{tracer}/children", encoding="ascii") as children:
-            return int(children.read())
-
     def send(self, number):
-        os.kill(self.pid(), number)
+        self.program.process.send_signal(number)
 
     def catches(self, number):
-        with open(f"/proc/{self.pid()}/status", encoding="ascii") as lines:
+        with open(f"/proc/{self.program.process.pid}/status", encoding="ascii") as lines:
             caught = next(line.split()[1] for line in lines if line.startswith("SigCgt:"))
         return bool(int(caught, 16) >> (number - 1) & 1)
 
     def ends_by(self, number):
-        """The tracer ends as the program did."""
         self.assertEqual(self.program.process.wait(PATIENCE), -number)
 
     def has_finished(self):
@@ -75,7 +69,7 @@ class Ending(Journey):
         self.assertEqual(self.program.close(), 0)
 
     def test_a_deletion_is_finished_and_its_log_written_when_the_window_is_closed(self):
-        self.start_slowly(2)
+        self.start_slowly(SOON, calls="unlinkat")
         self.begin_deletion()
         self.assertTrue(os.path.exists(self.folder))
         self.assertEqual(self.program.close(), 0)
@@ -87,7 +81,7 @@ class Ending(Journey):
         self.ends_by(signal.SIGTERM)
 
     def test_a_deletion_is_finished_and_its_log_written_before_a_signal_ends_the_program(self):
-        self.start_slowly(2)
+        self.start_slowly(SOON, calls="unlinkat")
         self.begin_deletion()
         self.send(signal.SIGTERM)
         self.send(signal.SIGHUP)
@@ -107,7 +101,7 @@ class Ending(Journey):
         self.assertEqual(self.home.deletion_logs(), [])
 
     def test_a_deletion_is_finished_and_its_log_written_when_the_display_goes_away(self):
-        self.start_slowly(2)
+        self.start_slowly(SOON, calls="unlinkat")
         self.begin_deletion()
         self.desktop.drop(self.program.window)
         self.assertEqual(self.program.process.wait(PATIENCE), 1)

@@ -47,15 +47,15 @@ def environment(world, appearance):
 
 
 def walk(world, desktop, program, take):
-    """Calls take(name, picture, areas) for every screen; areas hold what is different each time."""
+    """Calls take(name, running program) on every screen."""
     for appearance in APPEARANCES:
         home = Home(world)
         home.clear()
         home.furnish()
 
         def take_one(name, running, appearance=appearance):
-            picture = at_rest(running)
-            take(f"{name}-{appearance}", picture, changing_areas(running))
+            desktop.point(*(size - 1 for size in desktop.size))
+            take(f"{name}-{appearance}", running)
 
         Walk(world, desktop, program, home, take_one, **environment(world, appearance)).whole(demo=True)
         home.clear()
@@ -98,10 +98,10 @@ def masked(picture, areas):
 def save_all(world, desktop, program, folder):
     os.makedirs(folder, exist_ok=True)
 
-    def save(name, picture, _areas):
+    def save(name, running):
         path = os.path.join(folder, f"{name}.png")
         # A palette makes them a third as large and no pixel worse than the tolerance forgives.
-        picture.quantize(256, kmeans=2, dither=Image.Dither.NONE).save(path, optimize=True)
+        at_rest(running).quantize(256, kmeans=2, dither=Image.Dither.NONE).save(path, optimize=True)
         print(path, flush=True)
 
     walk(world, desktop, program, save)

@@ -6,6 +6,7 @@ from PIL import Image
 
 import pictures
 import slow
+from driver import wait_for
 from journey import Journey, main
 
 DIFFERENCES = "picture-differences"  # below the folder that the test runs in
@@ -20,23 +21,32 @@ class Pictures(Journey):
         kept = os.environ["DROSSBIN_PICTURES"]
         seen = set()
 
-        def compare(name, picture, areas):
+        def compare(name, program):
             seen.add(f"{name}.png")
-            with self.subTest(name):
-                self.compare(name, picture, os.path.join(kept, f"{name}.png"), areas)
+            self.compare(name, program, Image.open(os.path.join(kept, f"{name}.png")))
 
         pictures.walk(self.world, self.desktop, self.program_path, compare)
         self.assertEqual(seen, {name for name in os.listdir(kept) if name.endswith(".png")})
 
-    def compare(self, name, picture, kept, areas):
-        difference = pictures.difference(picture, Image.open(kept), areas)
+    def compare(self, name, program, kept):
+        """A screen may need a while to get there: it is looked at until it does."""
+        picture = difference = None
+
+        def looks_the_same():
+            nonlocal picture, difference
+            picture = program.picture()
+            difference = pictures.difference(picture, kept, pictures.changing_areas(program))
+            return difference is None
+
+        wait_for(lambda: self.keep(name, picture, difference), looks_the_same)
+
+    def keep(self, name, picture, difference):
+        os.makedirs(DIFFERENCES, exist_ok=True)
+        path = os.path.abspath(os.path.join(DIFFERENCES, name))
+        picture.save(f"{path}.png")
         if difference:
-            os.makedirs(DIFFERENCES, exist_ok=True)
-            path = os.path.abspath(os.path.join(DIFFERENCES, name))
-            picture.save(f"{path}.png")
             difference.save(f"{path}-difference.png")
-            self.fail(f"{name} looks different: see {path}-difference.png; take it anew with "
-                      "scripts/pictures if that is meant")
+        return f"{name} to look as kept: see {path}-difference.png; scripts/pictures takes it anew if that is meant"
 
 
 if __name__ == "__main__":

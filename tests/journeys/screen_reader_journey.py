@@ -22,14 +22,14 @@ class ScreenReader(Journey):
         self.addCleanup(announcements.close)
         return announcements
 
-    def start_slow_on(self, folder):
+    def start_held_at(self, folder, calls=slow.CALLS):
         if not slow.is_possible():
             self.skipTest("the program cannot be traced here, and so not be held in its work")
-        return self.start(wrapper=slow.on(os.path.join(self.home.path, folder), 1_000))
+        return self.start(wrapper=slow.held(os.path.join(self.home.path, folder), calls))
 
     def test_progress_has_a_value_that_is_announced(self):
         announcements = self.listen(VALUE)
-        program = self.start_slow_on("Library/Application Support/Sketchpad")
+        program = self.start_held_at("Library/Application Support/Sketchpad")
         program.press("push button", "Start System Scan")
         program.find("label", "Scanning app data...")
         ring = program.find("progress bar", "Scanning your Mac...")
@@ -53,10 +53,11 @@ class ScreenReader(Journey):
         return {control.role: control.has("enabled", "sensitive") for control in controls}
 
     def test_a_scan_cannot_be_started_while_one_runs(self):
-        program = self.start_slow_on("Library/Application Support/Sketchpad")
+        program = self.start_held_at("Library/Application Support/Sketchpad")
         program.press("push button", "Start System Scan")
         program.find("label", "Scanning app data...")
         self.assertFalse(program.find("push button", "Scan").has("sensitive"))
+        slow.let_go(program.process)
         self.wait_for_scan(program)
         self.assertTrue(program.find("push button", "Scan").has("sensitive"))
 
@@ -78,7 +79,7 @@ class ScreenReader(Journey):
         self.check_report(program)
 
     def test_one_item_that_takes_long_shows_that_it_is_worked_on(self):
-        program = self.start_slow_on("Library/Caches/com.example.Editor")
+        program = self.start_held_at("Library/Caches/com.example.Editor", "unlinkat")
         self.scan(program)
         program.press("check box", "com.example.Editor")
         announcements = self.listen(SHOWING, FOCUSED)
@@ -90,6 +91,7 @@ class ScreenReader(Journey):
         for glows in (True, False, True):
             wait_for(f"the glow to be {glows}", lambda glows=glows: self.glows(program, ring) == glows)
             self.assertEqual(ring.value[0], 0)
+        slow.let_go(program.process)
         announcements.wait_for(FOCUSED, "push button", "Done")
 
     def glows(self, program, ring):

@@ -89,22 +89,22 @@ class Walk:
         """A scan of the made-up home, held in the middle where that can be done."""
         if not slow.is_possible():
             return
-        folder = os.path.join(self._home.path, "Library/Application Support/Sketchpad")
-        program = self._start_slowly(folder)
+        program = self._start_held("Library/Application Support/Sketchpad", slow.CALLS)
         program.press("push button", "Start System Scan")
         program.find("label", "Scanning app data...")
         self._take("scanning", program)
+        slow.let_go(program.process)
         program.close()
 
     def deletion(self):
         """A deletion in the made-up home, held in the middle and then let go."""
-        folder = os.path.join(self._home.path, "Library/Caches/Google Chrome")
-        program = self._start_slowly(folder, 600)
+        program = self._start_held("Library/Caches/Google Chrome", "unlinkat")
         program.press("push button", "Start System Scan")
         self._delete_all_safe_caches(program)
         if slow.is_possible():
             wait_for("a deletion under way", lambda: self._percentage(program) not in ("", "0%"))
             self._take("deleting", program)
+            slow.let_go(program.process)
         program.find("label", "Cleanup Complete!")
         self._take("complete", program)
         program.close()
@@ -126,8 +126,8 @@ class Walk:
         self._take("empty", program)
         program.close()
 
-    def _start_slowly(self, folder, milliseconds=2_000):
-        held = slow.on(folder, milliseconds) if slow.is_possible() else ()
+    def _start_held(self, folder, calls):
+        held = slow.held(os.path.join(self._home.path, folder), calls) if slow.is_possible() else ()
         return self._start(wrapper=held)
 
 
