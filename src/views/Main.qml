@@ -6,6 +6,8 @@ T.ApplicationWindow {
     id: window
 
     readonly property bool isLanding: content.screen === ContentView.Landing
+    /// What panels and the window's frame may need of the screen.
+    readonly property int takenByDesktop: 100
 
     // By address: what the landing screen does not show is not read at the start. It is made in
     // pieces between the events, and the landing screen stays until it is there.
@@ -17,8 +19,10 @@ T.ApplicationWindow {
 
     width: 900
     height: 650
-    minimumWidth: 900
-    minimumHeight: 650
+    // No larger than what the desktop can leave of the screen: some compositors end a program whose
+    // window does not get as small as it has to be maximised.
+    minimumWidth: Math.min(900, Screen.width - window.takenByDesktop)
+    minimumHeight: Math.min(650, Screen.height - window.takenByDesktop)
     visible: true
     title: "Drossbin"
     color: Theme.window

@@ -4,7 +4,7 @@ from driver import PATIENCE, wait_for
 from journey import Journey, main
 from window_manager import WindowManager
 
-SCREEN = (2000, 1400)
+SCREEN = (2000, 1600)
 SMALLEST = (900, 650)
 
 

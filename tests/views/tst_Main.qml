@@ -38,6 +38,15 @@ TestCase {
         verify(window.maximumWidth > 100000 && window.maximumHeight > 100000);
     }
 
+    function test_gets_smaller_where_the_screen_has_no_room_for_it_beside_the_desktop() {
+        // The test's platform warns that it knows no least size when that of a shown window changes.
+        const window = createTemporaryObject(main, test, {
+            visible: false
+        });
+        window.screen = Array.from(Application.screens).find(screen => screen.name === "small");
+        compare([window.minimumWidth, window.minimumHeight], [700, 500]);
+    }
+
     function test_landing_screen_stays_until_the_session_is_made() {
         const window = make();
         tryVerify(() => isShown(window, "Start System Scan"));
