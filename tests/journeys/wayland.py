@@ -28,6 +28,8 @@ class WaylandDesktop:
             stderr=subprocess.DEVNULL,
         )
         wait_for("the compositor", lambda: os.path.exists(self._socket))
+        # Before there is a window: one that has the keys already would lose them by this.
+        desktop.focus(wait_for("the compositor's window", self._shown))
 
     def close(self):
         """Asks the compositor to stop, so that it takes its socket away."""
@@ -41,8 +43,7 @@ class WaylandDesktop:
         return title
 
     def focus(self, window):
-        """Has the keys go to the compositor, which hands them on to its newest window."""
-        self._desktop.focus(wait_for("the compositor's window", self._shown))
+        """The compositor hands the keys on to its newest window."""
 
     def _shown(self):
         window = self._desktop.window(TITLE)
