@@ -80,6 +80,11 @@ class Ending(Journey):
         self.send(signal.SIGTERM)
         self.ends_by(signal.SIGTERM)
 
+    def test_the_program_does_not_crash_when_the_display_goes_away_during_a_scan(self):
+        self.begin_scan()
+        self.desktop.drop(self.program.window)
+        self.assertEqual(self.program.process.wait(PATIENCE), 1)
+
     def test_a_deletion_is_finished_and_its_log_written_before_a_signal_ends_the_program(self):
         self.start_slowly(SOON, calls="unlinkat")
         self.begin_deletion()
