@@ -34,11 +34,15 @@ QtObject {
     readonly property color divider: Qt.tint(theme.dark ? Qt.rgba(1, 1, 1, 0.12) : Qt.rgba(0, 0, 0, 0.1), theme.stronger)
     readonly property color outline: Qt.tint(theme.dark ? Qt.rgba(1, 1, 1, 0.16) : Qt.rgba(0, 0, 0, 0.16), theme.stronger)
     readonly property color tooltip: "#3a3a3e"
-    readonly property color tooltipEdge: Qt.rgba(1, 1, 1, 0.12)
+    readonly property color tooltipEdge: Qt.rgba(1, 1, 1, theme.increasedContrast ? 0.6 : 0.12)
+    readonly property color alertEdge: theme.increasedContrast ? theme.orange : theme.tinted(theme.orangeTint, 0.5)
     readonly property color dim: Qt.rgba(0, 0, 0, theme.dark ? 0.5 : 0.25)
 
     /// One of the shapes that a shadow is made of.
     readonly property color shadow: Qt.rgba(0, 0, 0, theme.dark ? 0.05 : 0.011)
+
+    /// The opacity of what cannot be used.
+    readonly property real unavailable: theme.increasedContrast ? 0.7 : 0.4
 
     // Texts: 4.5:1 and more on every surface that they are on, or 7:1
     readonly property color label: theme.dark ? "#f2f2f5" : "#1d1d1f"

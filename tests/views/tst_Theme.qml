@@ -76,9 +76,21 @@ TestCase {
 
     function test_outlines_stand_out_where_more_contrast_is_asked_for(data) {
         show(data);
+        verify(contrast.of(Theme.tooltipEdge, [Theme.tooltip]) >= 3);
+        verify(contrast.of(Theme.alertEdge, [Theme.sheet, Theme.tinted(Theme.orangeTint, 0.08)]) >= 3);
         for (const line of [Theme.divider, Theme.outline])
             for (const surfaces of [[Theme.window], [Theme.sidebar], [Theme.sheet], [Theme.window, Theme.material], [Theme.window, Theme.secondaryFill], [Theme.sheet, Theme.secondaryFill]])
                 verify(contrast.of(line, surfaces) >= 3, contrast.of(line, surfaces));
+    }
+
+    function test_what_cannot_be_used_is_readable_where_more_contrast_is_asked_for_data() {
+        return appearances().filter(appearance => appearance.increased);
+    }
+
+    function test_what_cannot_be_used_is_readable_where_more_contrast_is_asked_for(data) {
+        show(data);
+        for (const text of [Theme.label, Theme.secondary, Theme.tertiary])
+            verify(contrast.of(Theme.tinted(text, Theme.unavailable), [Theme.window]) >= 4.5, contrast.of(Theme.tinted(text, Theme.unavailable), [Theme.window]));
     }
 
     function test_all_is_as_stated_where_no_more_contrast_is_asked_for() {
@@ -86,6 +98,8 @@ TestCase {
         compare(Theme.dangerFill, "#d92d20");
         compare([Theme.secondary, Theme.tertiary].map(String), ["#58585d", "#66666b"]);
         compare(Theme.divider, Qt.rgba(0, 0, 0, 0.1));
+        compare(Theme.alertEdge, Theme.tinted(Theme.orangeTint, 0.5));
+        compare([Theme.tooltipEdge.a, Theme.unavailable].map(value => value.toFixed(2)), ["0.12", "0.40"]);
     }
 
     function test_tints_are_clear_in_light_and_those_of_the_texts_in_dark() {

@@ -53,7 +53,7 @@ T.ItemDelegate {
     horizontalPadding: Theme.space8
     spacing: Theme.space12
     enabled: !row.isProtected
-    opacity: row.isProtected ? 0.4 : 1.0
+    opacity: row.isProtected ? Theme.unavailable : 1.0
     focusPolicy: Qt.NoFocus
     onPathChanged: row.closeInfo() // it was about another item
     Keys.onSpacePressed: row.press()

@@ -11,7 +11,7 @@ PressButton {
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: 32
     horizontalPadding: Theme.space12
-    opacity: button.enabled ? 1 : 0.4
+    opacity: button.enabled ? 1 : Theme.unavailable
 
     background: Rectangle {
         radius: Theme.corner

@@ -8,7 +8,7 @@ Rectangle {
     radius: Theme.corner
     color: Theme.tinted(Theme.orangeTint, 0.08)
     border.width: 1
-    border.color: Theme.tinted(Theme.orangeTint, 0.5)
+    border.color: Theme.alertEdge
 
     Symbol {
         id: symbol
