@@ -24,6 +24,7 @@ class Appearance(Journey):
         super().setUp()
         self.portal.ask_for("color-scheme", NO_PREFERENCE)
         self.portal.ask_for("contrast", STANDARD)
+        self.portal.ask_for_motion(False)
 
     def shows(self, program, appearance):
         wait_for(f"a {appearance} window", lambda: program.picture().getpixel((5, 640)) == WINDOW[appearance])
@@ -51,6 +52,14 @@ class Appearance(Journey):
         self.shows_colours(program, LIGHT_STANDARD)
         self.assertEqual((program.close(), program.errors()), (0, ""))
 
+    def test_motion_begins_and_ends_while_the_program_runs(self):
+        program = self.start()
+        program.find("push button", "Start System Scan")
+        for wanted in (True, False, True):
+            self.portal.ask_for_motion(wanted)
+            wait_for(f"motion: {wanted}", lambda wanted=wanted: moves(program) == wanted)
+        self.assertEqual((program.close(), program.errors()), (0, ""))
+
     def test_the_window_waits_for_no_answer(self):
         self.portal.ask_for("color-scheme", DARK)
         self.portal.hold()
@@ -62,6 +71,10 @@ class Appearance(Journey):
         self.portal.let_go()
         self.shows(program, "dark")
         self.assertEqual((program.close(), program.errors()), (0, ""))
+
+
+def moves(program):
+    return len({program.picture().tobytes() for _ in range(20)}) > 1
 
 
 def colours_of(program):

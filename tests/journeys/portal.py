@@ -7,6 +7,7 @@ NAME = "org.freedesktop.portal.Desktop"
 PATH = "/org/freedesktop/portal/desktop"
 SETTINGS = "org.freedesktop.portal.Settings"
 CONTROL = "org.drossbin.Portal"
+MOTION = "org.gnome.desktop.interface", "enable-animations"
 INTERFACES = f"""
 <node>
   <interface name="{SETTINGS}">
@@ -31,7 +32,10 @@ class Portal:
         self._bus = Gio.DBusConnection.new_for_address_sync(address, flags)
 
     def ask_for(self, appearance, value):
-        self._call("Change", GLib.Variant("(ssv)", ("org.freedesktop.appearance", appearance, GLib.Variant("u", value))))
+        self._change("org.freedesktop.appearance", appearance, GLib.Variant("u", value))
+
+    def ask_for_motion(self, wanted):
+        self._change(*MOTION, GLib.Variant("b", wanted))
 
     def hold(self):
         """From now on it answers nobody."""
@@ -45,6 +49,9 @@ class Portal:
         """It answers again, at first those who asked meanwhile."""
         self._call("LetGo")
 
+    def _change(self, *setting):
+        self._call("Change", GLib.Variant("(ssv)", setting))
+
     def _call(self, method, arguments=None):
         return self._bus.call_sync(NAME, PATH, CONTROL, method, arguments, None, Gio.DBusCallFlags.NONE, -1).unpack()
 
@@ -52,7 +59,7 @@ class Portal:
 class Server:
     def __init__(self, bus):
         self._bus = bus
-        self._values = {"org.gnome.desktop.interface": {"enable-animations": GLib.Variant("b", False)}}
+        self._values = {MOTION[0]: {MOTION[1]: GLib.Variant("b", False)}}
         self._held = None
         self._methods = {
             "ReadAll": self._read_all,

@@ -18,7 +18,7 @@ class WaylandDesktop:
     def __init__(self, world, desktop, *options):
         self._desktop = desktop
         self._socket = os.path.join(world.environment()["XDG_RUNTIME_DIR"], "compositor")
-        self.held, self.key = desktop.held, desktop.key
+        self.held, self.key, self.click = desktop.held, desktop.key, desktop.click
         command = ["weston", "--backend=x11-backend.so", "--use-pixman", "--no-config",
                    f"--socket={os.path.basename(self._socket)}", *options]
         self._compositor = subprocess.Popen(

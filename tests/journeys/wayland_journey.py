@@ -5,11 +5,13 @@ from journey import Journey, main
 from pictures import area
 from wayland import WaylandDesktop
 
+WIDTH = 1200
+PANEL = 32
 ROLES = ("push button", "check box", "text", "label", "list item")
 
 
 class OnWayland(Journey):
-    def start_at(self, scale, size=(1200, 950), **environment):
+    def start_at(self, scale, size=(WIDTH, 950), **environment):
         width, height = size
         self.desktop = WaylandDesktop(
             self.world, type(self).desktop, f"--width={width}", f"--height={height}", f"--scale={scale}")
@@ -42,6 +44,17 @@ class OnWayland(Journey):
             program.find("label", "Scanning your Mac...")
         program.find("list item", "Adobe Premiere Pro")
         program.key("Control_L", "q")
+        wait_for("the program's end", lambda: program.process.poll() is not None)
+        self.assertEqual((program.process.returncode, program.errors()), (0, ""))
+
+    def test_ends_when_the_frames_button_closes_it(self):
+        program = self.start_at(1)
+        wait_for("the keyboard", program.focused)
+        before = self.frame(program)
+        program.key("Super_L", "Shift_L", "M")
+        wait_for("another size", lambda: self.frame(program) != before)
+        # Below the compositor's panel the frame begins, with that button at its end.
+        self.desktop.click(WIDTH - 18, PANEL + 16)
         wait_for("the program's end", lambda: program.process.poll() is not None)
         self.assertEqual((program.process.returncode, program.errors()), (0, ""))
 
