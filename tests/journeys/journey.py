@@ -57,10 +57,11 @@ class Journey(unittest.TestCase):
 
 def main(as_ordinary_user=False, screen=(1280, 900)):
     """Runs the calling script's journeys: first to enter a new world, then in there, on a screen of
-    that size."""
+    that size. DROSSBIN_ORDINARY_USER has any of them run by one."""
     world = worlds.inside()
     if world is None:
         script = os.path.abspath(sys.argv[0])
+        as_ordinary_user = as_ordinary_user or "DROSSBIN_ORDINARY_USER" in os.environ
         sys.exit(worlds.run_inside(script, sys.argv[1:], as_ordinary_user))
     os.environ.update(world.environment())
     desktop = Desktop(world, screen)
