@@ -16,6 +16,7 @@ ResultsShell {
         anchors.fill: parent
         categories: session.content.categories
         selectedCategory: session.content.selectedCategory
+        canGoBack: session.content.screen === ContentView.Category
         meterCaption: session.content.shown.meterCaption
         meterText: session.content.shown.meterText
         isReclaiming: session.content.shown.isReclaiming

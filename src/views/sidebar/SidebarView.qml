@@ -10,6 +10,8 @@ FocusScope {
     required property var categories
     /// -1 when none is picked.
     required property int selectedCategory
+    /// Whether there is a way back from it to where none is picked.
+    required property bool canGoBack
     required property string meterCaption
     required property string meterText
     required property bool isReclaiming
@@ -18,8 +20,7 @@ FocusScope {
 
     /// What the last row was picked with: only the keyboard has a ring.
     property int reason: Qt.OtherFocusReason
-    /// How to come back to where none is picked.
-    readonly property string wayBack: sidebar.selectedCategory < 0 ? "" : "Escape shows the overview of all categories"
+    readonly property string wayBack: sidebar.canGoBack ? "Escape shows the overview of all categories" : ""
 
     signal picked(int category)
 

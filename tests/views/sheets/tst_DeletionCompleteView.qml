@@ -147,6 +147,14 @@ TestCase {
         }
     }
 
+    function test_all_lines_are_red_where_everything_failed() {
+        const model = createTemporaryQmlObject("import QtQuick; ListModel {}", test);
+        for (const name of ["a", "b", "c"])
+            model.append({ text: `❌ Failed: ${name}: Permission denied`, isSuccess: false });
+        const colors = find.labels(list(make({ log: model, firstFailure: 0 }))).map(label => label.color.toString());
+        compare(colors, Array(3).fill(Theme.red.toString()));
+    }
+
     function test_why_an_item_failed_shows_whole_after_a_long_name() {
         const text = `❌ Failed: ${"a long name ".repeat(20)}: Permission denied`;
         const model = createTemporaryQmlObject("import QtQuick; ListModel {}", test);

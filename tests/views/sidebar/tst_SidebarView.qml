@@ -14,6 +14,9 @@ TestCase {
 
     readonly property list<string> categoryNames: ["Program Caches", "Package Caches", "App Data", "Log Files", "Old Downloads"]
 
+    /// Not while a scan runs, nor where one found nothing, though a category stays picked.
+    property bool hasWayBack: true
+
     Finder {
         id: find
     }
@@ -31,6 +34,7 @@ TestCase {
         height: 650
         categories: categories
         selectedCategory: -1
+        canGoBack: test.hasWayBack && selectedCategory >= 0
         meterCaption: "Cache Found"
         meterText: "29.7 GB"
         isReclaiming: false
@@ -47,6 +51,7 @@ TestCase {
         failOnWarning(/.?/);
         Theme.animated = false;
         choose(-1);
+        hasWayBack = true;
         sidebar.log = [];
     }
 
@@ -271,6 +276,13 @@ TestCase {
         choose(-1);
         mouseMove(row("App Data"));
         compare(tips(), []);
+    }
+
+    function test_they_tell_of_no_way_back_where_there_is_none() {
+        choose(2);
+        hasWayBack = false;
+        compare(find.label(sidebar, "Categories").Accessible.description, "");
+        compare(row("App Data").Accessible.description, "0 items · Zero KB");
     }
 
     function test_a_row_just_picked_tells_nothing() {
