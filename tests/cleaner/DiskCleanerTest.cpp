@@ -25,10 +25,11 @@ TEST_F(DiskCleanerTest, removes_files_and_folders_and_counts_their_recorded_size
     EXPECT_THAT(outcome.log, ElementsAre("✅ Deleted: cache (1.5 MB)", "✅ Deleted: file (2 KB)"));
 }
 
-TEST_F(DiskCleanerTest, counts_the_recorded_size_of_what_has_grown_since) {
-    const auto outcome = run({makeItem(m_home.file("grown", 5'000'000), "grown", 1'000)});
-    EXPECT_EQ(outcome.bytesFreed, 1'000);
-    EXPECT_THAT(outcome.log, ElementsAre("✅ Deleted: grown (1 KB)"));
+TEST_F(DiskCleanerTest, counts_the_recorded_size_of_what_has_grown_or_shrunk_since) {
+    const auto outcome = run({makeItem(m_home.file("grown", 5'000'000), "grown", 1'000),
+                              makeItem(m_home.file("shrunk", 1), "shrunk", 2'000)});
+    EXPECT_EQ(outcome.bytesFreed, 3'000);
+    EXPECT_THAT(outcome.log, ElementsAre("✅ Deleted: grown (1 KB)", "✅ Deleted: shrunk (2 KB)"));
 }
 
 TEST_F(DiskCleanerTest, removes_what_the_path_says_whatever_the_risk_or_the_name) {
