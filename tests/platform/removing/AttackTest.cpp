@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #ifdef DROSSBIN_LINUX
@@ -86,10 +87,10 @@ const std::vector<Attack> attacks{
      }},
 };
 
-/// So many by default; as many as wanted for whoever has the time.
-int rounds() {
-    const char* const wanted = std::getenv("DROSSBIN_ATTACK_ROUNDS");
-    return wanted != nullptr ? std::atoi(wanted) : 50;
+/// How long one goes on: short by default, as long as wanted for whoever has the time.
+std::chrono::seconds duration() {
+    const char* const wanted = std::getenv("DROSSBIN_ATTACK_SECONDS");
+    return std::chrono::seconds(wanted != nullptr ? std::atoi(wanted) : 5);
 }
 
 bool isThere(const std::string& path) {
@@ -101,15 +102,16 @@ bool isLuck(const std::error_code& error) {
            error == std::errc::device_or_resource_busy || error == std::errc::directory_not_empty;
 }
 
-/// Measures and removes items as long as they are attacked, which is until the attack got through
-/// at least once; tells how often it did.
+/// Measures and removes items that are attacked, until the attack got through at least once; tells
+/// how often it did.
 void withstand(const Attack& attack, const Battlefield& field) {
     field.renewItem();
     ASSERT_TRUE(attack.strike(field)) << "not even where nobody else is about";
     std::atomic<int> strikes = 0;
     const test::Meanwhile attacking([&] { strikes += attack.strike(field) ? 1 : 0; });
+    const auto end = std::chrono::steady_clock::now() + duration();
     int round = 0;
-    for (; round < rounds() || strikes == 0; ++round) {
+    for (; std::chrono::steady_clock::now() < end || strikes == 0; ++round) {
         field.renewItem();
         const auto size = FileManager::sizeOfFolderContents(field.item());
         const std::error_code error = FileManager::removeItem(field.item());
