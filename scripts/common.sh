@@ -34,6 +34,16 @@ run_tests() {
   return $status
 }
 
+# check_hardening: the program that users run is built as cmake/Hardening.cmake asks. Needs build/release.
+check_hardening() {
+  local log
+  log=$(log_file hardened)
+  [ "$(uname)" != Linux ] || python3 tests/packaging/hardened.py build/release/src/main/drossbin >"$log" 2>&1 || {
+    cat "$log"
+    return 1
+  }
+}
+
 summary_of() { cat "build/logs/summary-$1"; }
 
 log_file() {

@@ -147,7 +147,7 @@ void run(const SampleHome& home, const Disturbance& disturbance, Report& report)
 } // namespace
 
 bool isWhole() {
-    return std::getenv("DROSSBIN_WHOLE") != nullptr; // NOLINT(concurrency-mt-unsafe)
+    return std::getenv("DROSSBIN_WHOLE") != nullptr; // NOLINT(concurrency-mt-unsafe): nobody sets it
 }
 
 SampleRun::SampleRun(const SampleHome& home, const Disturbance& disturbance) {

@@ -1,5 +1,5 @@
 """What cmake/Hardening.cmake asks the compiler and the linker for is in the program that users run.
-./package calls this with the program's path."""
+scripts/common.sh calls this with the program's path."""
 
 import platform
 import re
