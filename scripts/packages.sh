@@ -16,6 +16,7 @@ package_list=(
   "screen|dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi||press the program's controls from outside"
   "screen|python3-pil||take pictures"
   "screen|strace||hold the program in the middle of its work, and see every file that it opens"
+  "screen|x11-session-utils x11-xserver-utils||end a session around the program"
   "screen|openbox weston||try the window under a window manager, and on a Wayland desktop"
   "test|libgtest-dev libgmock-dev|googletest|tests of the logic"
   "test|qml6-module-qttest qml6-module-qtquick-window qml6-module-qt-labs-platform||tests of the screens, and of the menus of macOS"

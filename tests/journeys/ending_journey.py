@@ -3,7 +3,9 @@ signal or by taking its display away."""
 
 import os
 import signal
+import unittest
 
+import session_manager
 import slow
 from driver import PATIENCE, wait_for
 from journey import Journey, main
@@ -22,8 +24,8 @@ class Ending(Journey):
             last = self.home.file(f"Library/Caches/com.example.Many/{number:04}", 10_000)
         self.folder = os.path.dirname(last)
 
-    def start_slowly(self, milliseconds, calls=slow.CALLS):
-        self.program = self.start(wrapper=slow.on(self.folder, milliseconds, calls))
+    def start_slowly(self, milliseconds, calls=slow.CALLS, **environment):
+        self.program = self.start(wrapper=slow.on(self.folder, milliseconds, calls), **environment)
 
     def begin_scan(self):
         self.start_slowly(NO_HURRY)
@@ -110,6 +112,17 @@ class Ending(Journey):
         self.begin_deletion()
         self.desktop.drop(self.program.window)
         self.assertEqual(self.program.process.wait(PATIENCE), 1)
+        self.has_finished()
+
+    @unittest.skipUnless(session_manager.is_possible(), "there is no session manager here")
+    def test_a_deletion_is_finished_and_its_log_written_when_the_session_ends(self):
+        manager = session_manager.SessionManager(self.world, self.desktop)
+        self.start_slowly(SOON, calls="unlinkat", **manager.environment)
+        self.begin_deletion()
+        self.assertTrue(os.path.exists(self.folder))
+        manager.end_session()
+        self.assertEqual(self.program.process.wait(PATIENCE), 0)
+        self.assertEqual(self.program.errors(), "")
         self.has_finished()
 
 
