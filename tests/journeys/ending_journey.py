@@ -34,9 +34,7 @@ class Ending(Journey):
 
     def begin_deletion(self):
         self.scan(self.program)
-        self.program.press("check box", "com.example.Many")
-        self.program.press("push button", "Delete Selected")
-        self.program.press("push button", "Confirm & Delete")
+        self.delete(self.program, "com.example.Many")
         self.program.find("label", "Deleting files...")
         wait_for("the first removal", lambda: len(os.listdir(self.folder)) < ENTRIES)
 

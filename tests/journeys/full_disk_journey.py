@@ -32,9 +32,7 @@ class FullDisk(Journey):
     def test_starts_scans_and_cleans_with_the_home_on_a_full_disk(self):
         program = self.start(HOME=self.disk, TMPDIR=self.disk)
         self.scan(program)
-        program.press("check box", "com.example.Editor")
-        program.press("push button", "Delete Selected")
-        program.press("push button", "Confirm & Delete")
+        self.delete(program, "com.example.Editor")
         program.find("label", "Cleanup Complete!")
         self.assertFalse(os.path.exists(self.folder))
         program.press("push button", "Done")

@@ -42,6 +42,12 @@ class Journey(unittest.TestCase):
     def has_results(self, program):
         return not program.now("label", "Scanning your Mac...")
 
+    def delete(self, program, name):
+        """Has one item of the list shown deleted."""
+        program.press("check box", name)
+        program.press("push button", "Delete Selected")
+        program.press("push button", "Confirm & Delete")
+
     def rows(self, program):
         """The names in the list of the category shown, from top to bottom."""
         return [name for name in program.names("list item") if name not in CATEGORIES]

@@ -22,9 +22,7 @@ class LongLife(Journey):
         """Finds a cache, deletes it, and waits for the scan that follows."""
         path = self.home.file("Library/Caches/com.example.Editor/index", 3_000_000)
         self.program.press("push button", "Scan")
-        self.program.press("check box", "com.example.Editor")
-        self.program.press("push button", "Delete Selected")
-        self.program.press("push button", "Confirm & Delete")
+        self.delete(self.program, "com.example.Editor")
         self.program.press("push button", "Done")
         self.program.wait_until_gone("label", "Cleanup Complete!")
         self.wait_for_scan(self.program)

@@ -42,9 +42,7 @@ class OneCore(Journey):
     def test_a_deletion_shows_its_progress_and_answers_while_it_runs(self):
         program = self.start_slowly("unlinkat")
         self.scan(program)
-        program.press("check box", "com.example.Many")
-        program.press("push button", "Delete Selected")
-        program.press("push button", "Confirm & Delete")
+        self.delete(program, "com.example.Many")
         progress = program.find("progress bar", "Deleting files...")
         self.assertGreater(self.entries_left(), ENTRIES / 2)
         answers = self.count_answers(progress, lambda _: self.entries_left() > 0)

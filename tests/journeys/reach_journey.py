@@ -32,9 +32,7 @@ class Reach(Journey):
         """Starts the program, scans, deletes, and ends it."""
         program = self.start(wrapper=self.trace.wrapper, **environment)
         self.scan(program)
-        program.press("check box", "com.example.Editor")
-        program.press("push button", "Delete Selected")
-        program.press("push button", "Confirm & Delete")
+        self.delete(program, "com.example.Editor")
         program.press("push button", "Done")
         program.wait_until_gone("label", "Cleanup Complete!")
         self.assertEqual((program.close(), program.errors()), (0, ""))

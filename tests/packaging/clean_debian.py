@@ -26,9 +26,7 @@ class Installed:
         (editor,) = [path for path in expected["Program Caches"] if path.endswith("Editor")]
         line = f"✅ Deleted: com.example.Editor ({size_text(measured(editor))})"
         before = self.home.contents()
-        program.press("check box", "com.example.Editor")
-        program.press("push button", "Delete Selected")
-        program.press("push button", "Confirm & Delete")
+        self.delete(program, "com.example.Editor")
         program.find("label", "Cleanup Complete!")
         program.find("label", line)
         self.assert_gone(before, editor)
