@@ -31,7 +31,14 @@ run_tests() {
   log=$(log_file "tests-$preset")
   ctest --preset "$preset" --parallel "$(cores)" "$@" 2>&1 | tee "$log" || status=1
   sed -n '/tests passed, .* failed out of/,$p' "$log" >"build/logs/summary-$preset"
+  skip_reasons "build/$preset/Testing/Temporary/LastTest.log"
   return $status
+}
+
+# skip_reasons LOG: how many tests of ctest's log could not be run here, and why.
+skip_reasons() {
+  sed -n "/: Skipped\$/{n;p}; s/.* skipped ['\"]\(.*\)['\"]\$/\1/p" "$1" | sort | uniq -c | sort -rn |
+    sed 's/^ *\([0-9]*\) /Skipped, \1: /'
 }
 
 # check_hardening: the program that users run is built as cmake/Hardening.cmake asks. Needs build/release.

@@ -38,9 +38,6 @@ class Walk:
             program.find("label", "Scanning your Mac...")
         with program.held_still():
             self._take("scanning", program)
-        self._delete_all_safe_caches(program)
-        program.find("label", "Cleanup Complete!")
-        self._take("complete", program)
         program.close()
 
     def first_screens(self, demo):

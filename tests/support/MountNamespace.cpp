@@ -2,8 +2,11 @@
 
 #include "support/ChildProcess.h"
 
+#include <cstdint>
 #include <cstdlib>
 #include <fstream>
+#include <limits>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #ifdef __linux__
@@ -30,6 +33,16 @@ bool becomeRootOfOwnNamespace() {
     std::ofstream("/proc/self/gid_map") << group;
     std::ofstream("/proc/self/uid_map") << user;
     return ::getuid() == 0 && ::getgid() == 0;
+}
+
+/// Whether who is root here is that for all, not in a namespace of an ordinary user's.
+bool isRootOfAll() {
+    std::ifstream map("/proc/self/uid_map");
+    unsigned long inside = 0;
+    unsigned long outside = 0;
+    unsigned long count = 0;
+    map >> inside >> outside >> count;
+    return count == std::numeric_limits<std::uint32_t>::max();
 }
 
 bool makeMountsPrivate() {
@@ -81,9 +94,12 @@ bool makeReadOnly(const std::string& path) {
 }
 
 bool mountOverlay(const std::string& folder) {
-    const std::string layers =
-        "lowerdir=" + folder + "/lower,upperdir=" + folder + "/changed,workdir=" + folder + "/work";
-    return ::mount("overlay", (folder + "/shown").c_str(), "overlay", 0, layers.c_str()) == 0;
+    const std::string layers = "lowerdir=" + folder + "/lower,upperdir=" + folder +
+                               "/changed,workdir=" + folder + "/work" +
+                               (isRootOfAll() ? "" : ",userxattr");
+    // The overlay leaves a folder that is closed to all, which only root could clear away.
+    return ::mount("overlay", (folder + "/shown").c_str(), "overlay", 0, layers.c_str()) == 0 &&
+           ::chmod((folder + "/work/work").c_str(), S_IRWXU) == 0;
 }
 
 #else
