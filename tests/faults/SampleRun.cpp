@@ -147,7 +147,8 @@ void run(const SampleHome& home, const Disturbance& disturbance, Report& report)
 } // namespace
 
 bool isWhole() {
-    return std::getenv("DROSSBIN_WHOLE") != nullptr; // NOLINT(concurrency-mt-unsafe): nobody sets it
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): nobody sets it meanwhile
+    return std::getenv("DROSSBIN_WHOLE") != nullptr;
 }
 
 SampleRun::SampleRun(const SampleHome& home, const Disturbance& disturbance) {

@@ -51,7 +51,8 @@ TEST_F(DiskItemTexts, follow_the_users_locale) {
 
 TEST(DiskItem, gets_an_identity_of_its_own_that_its_copies_keep) {
     const DiskItem item;
-    const DiskItem copy = item; // NOLINT(performance-unnecessary-copy-initialization): it is the subject
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): it is the subject
+    const DiskItem copy = item;
     EXPECT_EQ(copy.id, item.id);
     EXPECT_NE(DiskItem().id, item.id);
 }
