@@ -15,7 +15,7 @@ RIGHTS = "setuid,setgid,setreuid,setregid,setresuid,setresgid,setgroups,capset"
 CALLS = f"execve,execveat,socket,openat,mmap,{RIGHTS}"
 CODE = re.compile(r"\.so\b|\.qml$|\.qmlc$|\.jsc?$|\.mjs$|/qmldir$|\.qm$|\.conf$")
 SYSTEM = ("/usr/", "/lib/", "/lib64/", "/etc/")
-# Where the environment would have Qt look for plugins and for QML.
+# Where the environment would have Qt look for plugins, for QML and for a style of its controls.
 FOLDERS_OF_CODE = ("QT_PLUGIN_PATH", "QT_QPA_PLATFORM_PLUGIN_PATH", "QML_IMPORT_PATH", "QML2_IMPORT_PATH",
                    "QT_QUICK_CONTROLS_STYLE", "QT_QUICK_CONTROLS_STYLE_PATH", "QT_QUICK_CONTROLS_CONF")
 

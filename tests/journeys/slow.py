@@ -1,6 +1,7 @@
 """Makes the program slow on purpose where a journey has to look at it in the middle of its work: a
 tracer holds every call of the system on one folder, for a while or until it is let go."""
 
+import contextlib
 import os
 import shutil
 import signal
@@ -34,4 +35,5 @@ def let_go(process):
     with open(f"/proc/{process.pid}/status", encoding="ascii") as lines:
         tracer = next(int(line.split()[1]) for line in lines if line.startswith("TracerPid:"))
     if tracer:
-        os.kill(tracer, signal.SIGKILL)
+        with contextlib.suppress(ProcessLookupError):  # it ends with the program
+            os.kill(tracer, signal.SIGKILL)
