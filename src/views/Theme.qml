@@ -42,7 +42,7 @@ QtObject {
     readonly property color shadow: Qt.rgba(0, 0, 0, theme.dark ? 0.05 : 0.011)
 
     /// The opacity of what cannot be used.
-    readonly property real unavailable: theme.increasedContrast ? 0.7 : 0.4
+    readonly property real unavailable: theme.increasedContrast ? 0.75 : 0.4
 
     // Texts: 4.5:1 and more on every surface that they are on, or 7:1
     readonly property color label: theme.dark ? "#f2f2f5" : "#1d1d1f"

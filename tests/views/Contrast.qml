@@ -4,7 +4,8 @@ import QtQuick
 /// out: 1 not at all, 21 as black on white.
 QtObject {
     function of(text: color, surfaces: list<color>): real {
-        const shades = [text, surfaces.reduce((below, above) => over(above, below))].map(luminance).sort((one, other) => other - one);
+        const ground = surfaces.reduce((below, above) => over(above, below));
+        const shades = [over(text, ground), ground].map(luminance).sort((one, other) => other - one);
         return (shades[0] + 0.05) / (shades[1] + 0.05);
     }
 

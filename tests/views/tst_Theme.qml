@@ -89,8 +89,11 @@ TestCase {
 
     function test_what_cannot_be_used_is_readable_where_more_contrast_is_asked_for(data) {
         show(data);
-        for (const text of [Theme.label, Theme.secondary, Theme.tertiary])
-            verify(contrast.of(Theme.tinted(text, Theme.unavailable), [Theme.window]) >= 4.5, contrast.of(Theme.tinted(text, Theme.unavailable), [Theme.window]));
+        const faded = color => Theme.tinted(color, Theme.unavailable);
+        const ratios = ["label", "secondary", "tertiary"].map(text => contrast.of(faded(Theme[text]), [Theme.window]));
+        const badge = [Theme.window, faded(Theme.tinted(Theme.riskTint("red"), 0.15))];
+        ratios.push(contrast.of(contrast.over(faded(Theme.red), Theme.window), badge), contrast.of(faded(Theme.label), [Theme.sidebar]));
+        verify(Math.min(...ratios) >= 4.5, ratios);
     }
 
     function test_all_is_as_stated_where_no_more_contrast_is_asked_for() {
