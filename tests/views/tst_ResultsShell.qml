@@ -88,6 +88,7 @@ TestCase {
         const button = finder.button(shell, "Scan");
         shell.canScan = false;
         compare(button.enabled, false);
+        compare(button.opacity, Theme.unavailable);
         mouseClick(button);
         compare(scans.count, 0);
         shell.canScan = true;

@@ -73,6 +73,19 @@ Item {
                 return test.made;
             }
 
+            function test_the_sidebar_tells_of_the_way_back_only_where_escape_takes_it() {
+                const state = make().content;
+                const heading = find.label(test.made, "Categories");
+                compare(heading.Accessible.description, "");
+                state.selectedCategory = 2;
+                tryCompare(heading.Accessible, "description", "Escape shows the overview of all categories");
+                state.startScan(false);
+                tryCompare(state, "screen", ContentView.Scanning);
+                compare(state.selectedCategory, 2);
+                tryCompare(heading.Accessible, "description", "");
+                state.finish();
+            }
+
             function resize(size: var) {
                 host.width = size.width;
                 host.height = size.height;

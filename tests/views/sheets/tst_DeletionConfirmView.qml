@@ -162,6 +162,7 @@ TestCase {
         compare(text.truncated, false);
         const box = text.parent.parent;
         compare(box.border.width, 1);
+        verify(Qt.colorEqual(box.border.color, Theme.alertEdge));
         compare(box.radius, 8);
         verify(box.color.a > 0 && box.color.a < 0.2);
         const symbol = find.symbol(box, "exclamationmark.triangle.fill");
